@@ -1,0 +1,40 @@
+# SPDX-License-Identifier: Apache-2.0
+# One language level and one set of warnings for every target of the project.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+
+add_library(tavrin_warnings INTERFACE)
+target_compile_options(tavrin_warnings INTERFACE -Wall -Wextra -Wconversion -Wshadow)
+if(CMAKE_CXX_COMPILER_ID MATCHES "Clang")
+  # Headers are reached through links to their folders, which clang takes for a difference in case.
+  target_compile_options(tavrin_warnings INTERFACE -Wno-nonportable-include-path)
+endif()
+if(TAVRIN_WERROR)
+  target_compile_options(tavrin_warnings INTERFACE -Werror)
+endif()
+# Our own sources say which bytes are text; what a host may do is left to it.
+target_compile_definitions(tavrin_warnings INTERFACE
+  QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING
+  QT_NO_CAST_FROM_BYTEARRAY QT_NO_FOREACH)
+
+if(TAVRIN_SANITIZE)
+  add_compile_options(-fsanitize=${TAVRIN_SANITIZE} -fno-omit-frame-pointer)
+  string(REPLACE "fuzzer-no-link" "" link_sanitizers "${TAVRIN_SANITIZE}")
+  string(REGEX REPLACE ",+$" "" link_sanitizers "${link_sanitizers}")
+  add_link_options(-fsanitize=${link_sanitizers})
+  if(TAVRIN_SANITIZE MATCHES "undefined")
+    # Qt ships without type information for its own classes; vptr checks would only report that.
+    add_compile_options(-fno-sanitize=vptr -fno-sanitize-recover=all)
+    add_link_options(-fno-sanitize=vptr)
+  endif()
+endif()
+
+if(TAVRIN_TIDY)
+  find_program(TAVRIN_CLANG_TIDY NAMES clang-tidy-14 clang-tidy REQUIRED)
+  set(CMAKE_CXX_CLANG_TIDY "${TAVRIN_CLANG_TIDY};--quiet;--warnings-as-errors=*")
+endif()
