@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QImage>
+
+#include <functional>
+#include <mutex>
+
+#include <Tavrin/model/SpecificationEntry.h>
+#include <Tavrin/pdf/StyledTextEditing.h>
+#include <Tavrin/pdfspec/PDFSpecification.h>
+
+namespace Tavrin
+{
+
+/// An entry with a place in a PDF, and what a reader sees of it without opening the document: a
+/// summary of a section or chapter, a picture of a figure or table.
+///
+/// Both are computed on first read, once, on the thread that reads; another thread that reads the
+/// same entry meanwhile waits, and one that reads another entry does not. A computation that reads
+/// its own entry sees what is there so far. What failed is not tried again.
+class TAVRIN_CORE_EXPORT PDFSpecification::Entry : public SpecificationEntry,
+                                                   public std::enable_shared_from_this<Entry>
+{
+public:
+    using SpecificationEntry::SpecificationEntry;
+
+    std::shared_ptr<SpecificationEntry> copy() const override;
+
+    /// The text of a section or chapter; absent for figures and tables, and where it can't be read.
+    std::optional<StyledText> summaryText() const;
+    void setSummaryText(const std::optional<StyledText> &text);
+    /// The picture of a figure or table, a pixel a point; absent for sections and chapters.
+    std::optional<QImage> previewImage() const;
+    void setPreviewImage(const std::optional<QImage> &image);
+    /// Where each line of the summary stands in the PDF.
+    std::optional<LineLocations> lineLocations() const;
+    void setLineLocations(const std::optional<LineLocations> &lines);
+
+    using DisplayBlock = std::function<void(Entry &)>;
+    /// What computes the three above; binding installs it. Setting it makes them be computed anew
+    /// where they are absent.
+    const DisplayBlock &displayBlock() const { return m_displayBlock; }
+    void setDisplayBlock(DisplayBlock block);
+    bool needsComputeDisplay() const;
+    void setNeedsComputeDisplay(bool needs);
+    /// Computes them now, if that was not done yet. Any thread.
+    void computeDisplay() const;
+
+    /// Kind with number and title, source, summary or preview, a link into the document, related
+    /// entries. Texts are StyledText, the preview is a QImage, related entries are a list of
+    /// StyledText with links. Made on each read; may take as long as an extraction.
+    std::vector<EntryDisplayItem> displayItems() const override;
+
+    /// The link to the place, as the map has it or an enhancer found it. Without one the label
+    /// itself is the link.
+    const std::optional<QString> &internalLink() const { return m_internalLink; }
+    void setInternalLink(const std::optional<QString> &link) { m_internalLink = link; }
+
+    /// Where the entry begins; absent while nothing is bound and where the link leads nowhere.
+    const std::optional<HostPDFDestination> &destination() const { return m_destination; }
+    void setDestination(const std::optional<HostPDFDestination> &place) { m_destination = place; }
+
+    /// The entry's rectangles by page, if its link gives them.
+    const std::optional<PageRects> &destinationRects() const { return m_destinationRects; }
+    void setDestinationRects(const std::optional<PageRects> &rects) { m_destinationRects = rects; }
+
+    /// The lines of the parent that this entry stands for, from `lower` up to but not including
+    /// `upper`; absent for an entry that is no child.
+    const std::optional<StyledTextEditing::LineRange> &lineRange() const { return m_lineRange; }
+    /// The entry whose lines these are; null for an entry that is no child.
+    std::shared_ptr<Entry> parentEntry() const { return m_parentEntry.lock(); }
+    /// The child for a range of lines: the same object for the same range. Owned by this entry.
+    std::shared_ptr<Entry> childEntry(StyledTextEditing::LineRange range);
+
+protected:
+    /// Gives a fresh entry of the same label all else that a copy has.
+    void copyValuesTo(Entry &other) const;
+
+private:
+    template <class Value>
+    std::optional<Value> lazy(const std::optional<Value> Entry::*field) const;
+    template <class Value>
+    std::optional<Value> cached(const std::optional<Value> Entry::*field) const;
+
+    std::optional<StyledText> m_summaryText;
+    std::optional<QImage> m_previewImage;
+    std::optional<LineLocations> m_lineLocations;
+    /// Guards the three above, for as long as it takes to copy one.
+    mutable std::mutex m_valueLock;
+    DisplayBlock m_displayBlock;
+    mutable bool m_computingDisplay = false;
+    mutable bool m_needsComputeDisplay = true;
+    /// Guards the two above, and is held while the block runs. Recursive, so that the block may
+    /// read the entry.
+    mutable std::recursive_mutex m_displayItemsLock;
+    std::optional<StyledTextEditing::LineRange> m_lineRange;
+    std::weak_ptr<Entry> m_parentEntry;
+    std::vector<std::shared_ptr<Entry>> m_childEntries;
+    std::optional<QString> m_internalLink;
+    std::optional<HostPDFDestination> m_destination;
+    std::optional<PageRects> m_destinationRects;
+};
+
+} // namespace Tavrin
