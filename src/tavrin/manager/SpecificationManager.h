@@ -1,0 +1,180 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QString>
+#include <QUrl>
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <stdexcept>
+#include <vector>
+
+#include <Tavrin/CoreExport.h>
+#include <Tavrin/model/Specification.h>
+#include <Tavrin/model/SpecificationComparator.h>
+
+namespace Tavrin
+{
+
+/// The one registry of the specifications that a process has loaded.
+///
+/// The host registers maps at start-up, says which specification is primary, and asks for entries
+/// by label. Look-ups ask the primary specification first, then the others in list order.
+/// Everything runs synchronously on the caller's thread, and no two threads may use a manager at
+/// once.
+///
+/// Files that the user imports are copied into a directory of the host's own, the store, and bound
+/// to the specification that recognises them. Nothing on disk says which: when a specification is
+/// registered the next time, the stored files are offered to it. What changes the list of stored
+/// files posts TavrinConstants::SpecManagerAuxiliaryFilesChangedNotification on the caller's
+/// thread, with the manager as object. Trouble with the store is logged, and leaves files usable
+/// where they lie.
+class TAVRIN_CORE_EXPORT SpecificationManager
+{
+public:
+    using SpecificationPtr = std::shared_ptr<Specification>;
+    using EntryPtr = std::shared_ptr<SpecificationEntry>;
+    using SpecificationPredicate = std::function<bool(const Specification &)>;
+    using EntryPredicate = std::function<bool(const SpecificationEntry &)>;
+    using Comparator = SpecificationComparator::Comparator;
+
+    /// A directory of maps that could not be listed.
+    class TAVRIN_CORE_EXPORT DirectoryError : public std::runtime_error
+    {
+    public:
+        explicit DirectoryError(const QString &directory);
+        QString directory;
+    };
+
+    /// A file that no registered specification has an open requirement for.
+    class TAVRIN_CORE_EXPORT SetupError : public std::runtime_error
+    {
+    public:
+        enum class Kind { UnassignedAuxiliaryFile };
+
+        explicit SetupError(const QUrl &url);
+
+        Kind kind = Kind::UnassignedAuxiliaryFile;
+        QUrl url;
+        /// For the user, in the user's language.
+        QString errorDescription;
+        QString failureReason;
+        QString recoverySuggestion;
+    };
+
+    SpecificationManager();
+    ~SpecificationManager();
+    SpecificationManager(const SpecificationManager &) = delete;
+    SpecificationManager &operator=(const SpecificationManager &) = delete;
+
+    /// Made on first use; lives as long as the process.
+    static SpecificationManager &shared();
+
+    /// In the order of the comparators if there are any, else in that of registration.
+    const std::vector<SpecificationPtr> &specifications() const { return m_specifications; }
+    /// Replaces the list, puts it in order and selects the primary. Offers no files.
+    void setSpecifications(std::vector<SpecificationPtr> specifications);
+
+    /// Adds a specification, puts the list in order, selects the primary, and offers the
+    /// specification the stored files. One that is registered twice is held twice.
+    void registerSpecification(const SpecificationPtr &specification);
+    /// Makes the right kind of specification for a map and registers it. If that fails nothing
+    /// is registered and the error of the reader passes through.
+    void registerSpecification(const QUrl &specMap, const std::optional<QUrl> &dtd);
+
+    /// Registers every map of a directory: each file whose extension is exactly "xml", with the
+    /// file of the same name and the extension "dtd" as its DTD if that is there too. In order of
+    /// name. Then imports the given files, as registerAuxiliaryFile does. Throws DirectoryError, or
+    /// what the first faulty map or file threw; what came before it stays.
+    void loadSpecInformation(const QUrl &directory, const std::vector<QUrl> &auxiliaryFiles = {});
+
+    /// The directory of the stored files, made if need be: userDataDirectory(), then
+    /// libraryIdentifier() and hostIdentifier(). Asked anew each time; absent if there is no place
+    /// for it or it can't be made.
+    static std::optional<QString> supportDirectory();
+
+    /// The stored files, in order of name, then of import. The first reading lists the store, takes
+    /// away what a crash left in it, and posts the notification; it makes no directory.
+    const std::vector<QUrl> &auxiliaryFiles();
+    /// Replaces the list, leaving the disk as it is and posting nothing. Files need not be in the
+    /// store: with a list of its own a host offers others to what it registers next.
+    void setAuxiliaryFiles(std::vector<QUrl> files);
+
+    /// Imports a file: copies it into the store and binds the copy to the first specification in
+    /// list order that recognises it. Returns the copy, or the file itself, bound where it lies, if
+    /// it can't be stored. Throws SetupError if no specification recognises it, and passes on what
+    /// recognising and binding throw; then nothing of the file is left in the store.
+    ///
+    /// A file that is recognised and not claimed after all stays in the store unbound. Entries that
+    /// are in memory stay as they are. Copying takes the time of the disk; the file is whole and
+    /// flushed when this returns, and never seen half made.
+    QUrl registerAuxiliaryFile(const QUrl &url);
+    /// One after the other; the first that fails ends it, and those before stay.
+    void registerAuxiliaryFiles(const std::vector<QUrl> &urls);
+
+    /// Takes a file off the list and, if it is in the store, off the disk. The specification that
+    /// it was bound to is replaced by a fresh object with no file bound; whoever holds the old one
+    /// learns by the notification. A file that is not in the list is only logged.
+    void unregisterAuxiliaryFile(const QUrl &url);
+
+    /// Offers the stored files that are bound to nothing to a specification, in the order of the
+    /// list, until it claims one. Part of registering it.
+    void assignExistingAuxiliaryFiles(Specification &specification);
+
+    /// Binds a file where it lies, for this run alone, to the first specification in list order
+    /// that recognises it, and returns that; the store stays out of it and nothing is posted.
+    /// Throws SetupError if none does, and passes on what recognising and binding throw.
+    SpecificationPtr bindAuxiliaryFile(const QUrl &url);
+
+    /// Null while nothing is registered, or if the predicate finds none.
+    const SpecificationPtr &primarySpecification() const { return m_primarySpecification; }
+    /// Lasts until the list, the comparators or the predicate change.
+    void setPrimarySpecification(const SpecificationPtr &specification);
+
+    const SpecificationPredicate &primarySpecificationPredicate() const;
+    /// Selects the first specification that satisfies the predicate, at once and from now on; an
+    /// empty function means the first of the list.
+    void setPrimarySpecificationPredicate(SpecificationPredicate predicate);
+
+    /// Each decides where all before it call two specifications the same.
+    const std::vector<Comparator> &specComparators() const { return m_specComparators; }
+    /// Sorts the list at once; an empty list of comparators leaves the order as it is.
+    void setSpecComparators(std::vector<Comparator> comparators);
+    /// The same comparators as objects, for hosts that can only hold those.
+    std::vector<std::shared_ptr<SpecificationComparator>> bridgedSpecComparators() const;
+    void setBridgedSpecComparators(
+        const std::vector<std::shared_ptr<SpecificationComparator>> &comparators);
+
+    /// The first in list order for which the predicate holds, or null.
+    SpecificationPtr specificationWhere(const SpecificationPredicate &predicate) const;
+
+    /// The entry for a label or spec URL in the first specification that has it. May load the
+    /// tables of the specifications it asks, one after the other, until there is a hit.
+    EntryPtr entry(const QString &label,
+                   const SpecificationPredicate &inSpecsWhere = acceptAll) const;
+
+    /// The first entry of the tables in memory for which the predicate holds. Loads nothing.
+    EntryPtr entryWhere(const EntryPredicate &predicate) const;
+
+    static bool acceptAll(const Specification &) { return true; }
+
+private:
+    void updateOrderAndPrimary();
+    void sortSpecifications();
+    void updatePrimarySpecification();
+    bool isOrderedBefore(const Specification &a, const Specification &b) const;
+    std::vector<SpecificationPtr> lookupOrder() const;
+    SpecificationPtr specificationFor(const QUrl &url) const;
+    bool isBound(const QUrl &url) const;
+    void rebuildSpecification(const QUrl &boundFile);
+    void postAuxiliaryFilesChanged();
+
+    std::vector<SpecificationPtr> m_specifications;
+    SpecificationPtr m_primarySpecification;
+    SpecificationPredicate m_primarySpecificationPredicate;
+    std::vector<Comparator> m_specComparators;
+    std::optional<std::vector<QUrl>> m_auxiliaryFiles;
+};
+
+} // namespace Tavrin

@@ -1,0 +1,176 @@
+// SPDX-License-Identifier: Apache-2.0
+// The manager's part that looks after the files that users import.
+#include <Tavrin/manager/SpecificationManager.h>
+
+#include <algorithm>
+#include <utility>
+
+#include <Tavrin/manager/AuxiliaryFileStore.h>
+#include <Tavrin/manager/TavrinConstants.h>
+#include <Tavrin/platform/Logging.h>
+#include <Tavrin/platform/NotificationCenter.h>
+#include <Tavrin/platform/StringLocalizer.h>
+
+namespace Tavrin
+{
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+bool hasBound(const Specification &specification, const QUrl &url)
+{
+    const auto &requirements = specification.auxiliaryFileRequirements();
+    return std::any_of(requirements.begin(), requirements.end(),
+                       [&](const auto &requirement) { return requirement->fileURL == url; });
+}
+
+/// Whether the file is the specification's now. An error is one more reason not to have it.
+bool claims(Specification &specification, const QUrl &url)
+{
+    try {
+        return specification.claimAuxiliaryFile(url);
+    } catch (const std::exception &) {
+        return false;
+    }
+}
+
+} // namespace
+
+SpecificationManager::SetupError::SetupError(const QUrl &file)
+    : std::runtime_error(file.toLocalFile().toStdString() +
+                         ": does not match any supported specifications"),
+      url(file),
+      errorDescription(localized("%@ does not match any supported specifications.",
+                                 "aux file assignment error description")
+                           .replace("%@"_L1, file.fileName())),
+      failureReason(errorDescription),
+      recoverySuggestion(
+          localized("Try another file.", "aux file assignment error recovery suggestion"))
+{
+}
+
+std::optional<QString> SpecificationManager::supportDirectory()
+{
+    return AuxiliaryFileStore::directory();
+}
+
+const std::vector<QUrl> &SpecificationManager::auxiliaryFiles()
+{
+    if (!m_auxiliaryFiles) {
+        m_auxiliaryFiles = AuxiliaryFileStore::files();
+        postAuxiliaryFilesChanged();
+    }
+    return *m_auxiliaryFiles;
+}
+
+void SpecificationManager::setAuxiliaryFiles(std::vector<QUrl> files)
+{
+    m_auxiliaryFiles = std::move(files);
+}
+
+void SpecificationManager::assignExistingAuxiliaryFiles(Specification &specification)
+{
+    if (specification.auxiliaryFileRequirements().empty())
+        return;
+    // A copy, since what claims a file may change the list.
+    const std::vector<QUrl> files = auxiliaryFiles();
+    for (const QUrl &file : files) {
+        if (!isBound(file) && claims(specification, file))
+            return;
+    }
+}
+
+QUrl SpecificationManager::registerAuxiliaryFile(const QUrl &url)
+{
+    const SpecificationPtr specification = specificationFor(url);
+    QUrl stored = AuxiliaryFileStore::add(url);
+    try {
+        specification->claimAuxiliaryFile(stored);
+    } catch (...) {
+        if (stored != url)
+            AuxiliaryFileStore::remove(stored);
+        throw;
+    }
+    // Read for the first time, the list may have the copy already.
+    auxiliaryFiles();
+    if (std::find(m_auxiliaryFiles->begin(), m_auxiliaryFiles->end(), stored) ==
+        m_auxiliaryFiles->end())
+        m_auxiliaryFiles->push_back(stored);
+    postAuxiliaryFilesChanged();
+    return stored;
+}
+
+void SpecificationManager::registerAuxiliaryFiles(const std::vector<QUrl> &urls)
+{
+    for (const QUrl &url : urls)
+        registerAuxiliaryFile(url);
+}
+
+void SpecificationManager::unregisterAuxiliaryFile(const QUrl &url)
+{
+    auxiliaryFiles();
+    const auto it = std::find(m_auxiliaryFiles->begin(), m_auxiliaryFiles->end(), url);
+    if (it == m_auxiliaryFiles->end()) {
+        qCWarning(managerLog) << "Tried to unregister a file that isn't registered";
+        return;
+    }
+    // What the caller gave may be the very one in the list.
+    const QUrl file = std::move(*it);
+    m_auxiliaryFiles->erase(it);
+    AuxiliaryFileStore::remove(file);
+    rebuildSpecification(file);
+    postAuxiliaryFilesChanged();
+}
+
+SpecificationManager::SpecificationPtr SpecificationManager::bindAuxiliaryFile(const QUrl &url)
+{
+    SpecificationPtr specification = specificationFor(url);
+    if (!specification->claimAuxiliaryFile(url))
+        throw SetupError(url);
+    return specification;
+}
+
+SpecificationManager::SpecificationPtr SpecificationManager::specificationFor(const QUrl &url) const
+{
+    const auto recognises = [&url](const SpecificationPtr &specification) {
+        return specification->isAuxiliaryFileCompatible(url);
+    };
+    const auto it = std::find_if(m_specifications.begin(), m_specifications.end(), recognises);
+    if (it == m_specifications.end())
+        throw SetupError(url);
+    return *it;
+}
+
+bool SpecificationManager::isBound(const QUrl &url) const
+{
+    return std::any_of(m_specifications.begin(), m_specifications.end(),
+                       [&](const SpecificationPtr &spec) { return hasBound(*spec, url); });
+}
+
+void SpecificationManager::rebuildSpecification(const QUrl &boundFile)
+{
+    const auto it =
+        std::find_if(m_specifications.begin(), m_specifications.end(),
+                     [&](const SpecificationPtr &spec) { return hasBound(*spec, boundFile); });
+    if (it == m_specifications.end() || !(*it)->specMapURL())
+        return;
+    try {
+        *it = Specification::withStructureFile(*(*it)->specMapURL(), (*it)->dtdURL());
+    } catch (const std::exception &error) {
+        qCWarning(managerLog).noquote()
+            << "Error re-loading the specification after deleting its auxiliary file:"
+            << QString::fromUtf8(error.what());
+        return;
+    }
+    updateOrderAndPrimary();
+}
+
+void SpecificationManager::postAuxiliaryFilesChanged()
+{
+    NotificationCenter::shared().post(TavrinConstants::SpecManagerAuxiliaryFilesChangedNotification,
+                                      this);
+}
+
+} // namespace Tavrin

@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "LogCapture.h"
+
+#include <utility>
+
+namespace Tavrin::Testing
+{
+
+LogCapture *LogCapture::s_current = nullptr;
+
+LogCapture::LogCapture() : m_previous(qInstallMessageHandler(&LogCapture::receive))
+{
+    s_current = this;
+}
+
+LogCapture::~LogCapture()
+{
+    qInstallMessageHandler(m_previous);
+    s_current = nullptr;
+}
+
+QStringList LogCapture::takeMessages()
+{
+    return std::exchange(m_messages, {});
+}
+
+void LogCapture::receive(QtMsgType /*type*/, const QMessageLogContext &context, const QString &text)
+{
+    if (QByteArrayView(context.category) == "tavrin.manager")
+        s_current->m_messages.append(text);
+}
+
+} // namespace Tavrin::Testing

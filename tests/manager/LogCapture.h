@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QStringList>
+
+namespace Tavrin::Testing
+{
+
+/// Gathers what is logged while it lives. One at a time, on one thread.
+class LogCapture
+{
+public:
+    LogCapture();
+    ~LogCapture();
+    LogCapture(const LogCapture &) = delete;
+    LogCapture &operator=(const LogCapture &) = delete;
+
+    /// The messages of the category "tavrin.manager" since the last call.
+    QStringList takeMessages();
+
+private:
+    static void receive(QtMsgType type, const QMessageLogContext &context, const QString &text);
+
+    static LogCapture *s_current;
+    QtMessageHandler m_previous;
+    QStringList m_messages;
+};
+
+} // namespace Tavrin::Testing
