@@ -1,0 +1,101 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <QUrl>
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <vector>
+
+#include <Tavrin/CoreExport.h>
+#include <Tavrin/audit/AuditFormat.h>
+#include <Tavrin/audit/AuditReference.h>
+#include <Tavrin/audit/AuditReport.h>
+#include <Tavrin/pdfspec/PDFSpecification.h>
+#include <Tavrin/platform/StyledText.h>
+
+class QIODevice;
+
+namespace Tavrin
+{
+
+/// Turns references into a document for people who check a body of work against a specification:
+/// what it says at each place that the work cites, and how much of it is cited at all.
+///
+/// A host that audits its own references takes report() and write(), or writeAudit() for both in
+/// the background. Tables come row by row from auditCSVComponents(). Where an operation works in
+/// the background, the specification is left alone by everyone else until the completion is
+/// called; that happens in the thread of the QCoreApplication, which has to run its event loop.
+/// The auditor may be gone by then.
+class TAVRIN_CORE_EXPORT PDFSpecAuditor
+{
+public:
+    using Row = QStringList;
+    /// A fraction from 0 to 1.
+    using ProgressUpdater = std::function<void(double done)>;
+    using Completion = std::function<void(bool success)>;
+
+    PDFSpecAuditor() = delete;
+    explicit PDFSpecAuditor(const std::shared_ptr<PDFSpecification> &specification);
+
+    const std::shared_ptr<PDFSpecification> &spec() const { return m_spec; }
+
+    /// Looks of the rich text report.
+    const TextAttributes &headingAttributes() const;
+    const TextAttributes &subHeadingAttributes() const;
+    const TextAttributes &bodyAttributes() const;
+    const TextAttributes &bodyErrorAttributes() const;
+    /// "Reference", "Summary", "Related" and "Label", in the user's language.
+    const QStringList &csvColumnHeadings() const { return m_csvColumnHeadings; }
+
+    /// Writes a rich text report over the entries at the positions 60 to 119 of those that the
+    /// references lead to, in document order; with fewer than 120 the process ends. Unknown
+    /// references are left out. Tells on standard output which entry it is at, and on standard
+    /// error why a report can't be written. Returns at once.
+    void writeAuditRTF(const QStringList &references, const QUrl &url,
+                       const Completion &completion) const;
+
+    /// A table with a row for each reference below the headings; cells that have nothing to say
+    /// are empty, as is the row of an unknown reference but for its custom cells. Without headings
+    /// of their own the custom columns have empty ones.
+    std::vector<Row>
+    auditCSVComponents(const QStringList &references,
+                       const std::optional<std::vector<QStringList>> &customComponents = {},
+                       const std::optional<QStringList> &customHeadings = {},
+                       const ProgressUpdater &progressUpdater = {}) const;
+
+    /// The table as one text: cells in double quotes, "<no value>" in the empty ones. Nothing is
+    /// escaped. For a file that every reader of tables understands, write AuditFormat::CSV.
+    QString auditCSV(const QStringList &references,
+                     const std::optional<std::vector<QStringList>> &customComponents = {},
+                     const std::optional<QStringList> &forHeadings = {}) const;
+
+    /// What the references cover. No page is read; the tables of other specifications may be
+    /// loaded to find related entries, so this belongs on the thread of the shared manager.
+    AuditReport report(const std::vector<AuditReference> &references,
+                       const AuditDemands &demands = {}) const;
+
+    /// Writes a report in any format, on the caller's thread. Throws AuditError.
+    static void write(const AuditReport &report, AuditFormat format, QIODevice &device,
+                      const ProgressUpdater &progressUpdater = {});
+    /// The same into a file, which is there as a whole or stays as it was.
+    static void write(const AuditReport &report, AuditFormat format, const QUrl &url,
+                      const ProgressUpdater &progressUpdater = {});
+
+    /// Makes the report at once, and writes it in the background, progress included. Tells on
+    /// standard error why it can't be written.
+    void writeAudit(const std::vector<AuditReference> &references, AuditFormat format,
+                    const QUrl &url, const Completion &completion,
+                    const ProgressUpdater &progressUpdater = {}) const;
+
+private:
+    Row tableRow(const QString &reference) const;
+
+    std::shared_ptr<PDFSpecification> m_spec;
+    QStringList m_csvColumnHeadings;
+};
+
+} // namespace Tavrin
