@@ -1,0 +1,135 @@
+// SPDX-License-Identifier: Apache-2.0
+#include <QGuiApplication>
+#include <QLocale>
+
+#include <algorithm>
+#include <memory>
+
+#include <Tavrin/platform/Translations.h>
+
+#include "CommandLineError.h"
+#include "CommandRegistry.h"
+#include "Console.h"
+#include "Library.h"
+
+namespace Tavrin::Cli
+{
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+void printOverview(const std::vector<std::unique_ptr<Command>> &commands)
+{
+    Console::print(u"tavrin makes a specification that exists only as a PDF citable.\n\n"
+                   "usage: tavrin COMMAND [OPTIONS] [ARGUMENTS]\n"_s);
+    for (const auto &command : commands)
+        Console::print(u"  %1%2"_s.arg(command->name(), -10).arg(command->summary()));
+    Console::print(u"\nA beginning:\n\n"
+                   "  tavrin draft DOC.pdf -o maps/DOC.xml\n"
+                   "  tavrin lookup --maps maps --pdf DOC.pdf \"§ 4.2.1\"\n\n"
+                   "tavrin COMMAND --help tells a command's options. Exit codes: 0 done, 1 not "
+                   "found\nor not in order, 2 bad input."_s);
+}
+
+ExitCode runCommand(const Command &command, const QStringList &arguments)
+{
+    QCommandLineParser parser;
+    QString summary = command.summary();
+    summary[0] = summary[0].toUpper();
+    parser.setApplicationDescription(summary + u".\n\n"_s + command.details());
+    const QCommandLineOption help({u"h"_s, u"help"_s}, u"Show this help."_s);
+    parser.addOption(help);
+    command.describe(parser);
+    if (!parser.parse(arguments)) {
+        throw CommandLineError(
+            u"%1 (%2 --help lists the options)"_s.arg(parser.errorText(), arguments.constFirst()));
+    }
+    if (parser.isSet(help)) {
+        // The parser knows nothing of commands; its usage line would leave this one out.
+        const QString program = QCoreApplication::arguments().constFirst();
+        Console::print(parser.helpText().trimmed().replace(u"Usage: "_s + program,
+                                                           u"Usage: "_s + arguments.constFirst()));
+        return Success;
+    }
+    return command.run(parser);
+}
+
+ExitCode dispatch(QStringList arguments)
+{
+    const auto commands = allCommands();
+    QString name = arguments.value(1);
+    if (name == "help"_L1 && arguments.size() > 2) {
+        name = arguments[2];
+        arguments = {arguments[0], name, u"--help"_s};
+    }
+    if (name == "--version"_L1 || name == "-v"_L1) {
+        Console::print(u"tavrin "_s + QCoreApplication::applicationVersion());
+        return Success;
+    }
+    if (name == "--help"_L1 || name == "-h"_L1 || name == "help"_L1) {
+        printOverview(commands);
+        return Success;
+    }
+    if (name.isEmpty())
+        throw CommandLineError(u"no command given; tavrin --help lists them"_s);
+    const auto it = std::find_if(commands.begin(), commands.end(),
+                                 [&](const auto &command) { return command->name() == name; });
+    if (it == commands.end())
+        throw CommandLineError(name + u": no such command; tavrin --help lists them"_s);
+    // The parser takes the first argument for the program's name.
+    arguments[0] = u"tavrin "_s + name;
+    arguments.removeAt(1);
+    return runCommand(**it, arguments);
+}
+
+} // namespace
+
+/// Whether the environment asks for texts as they are, as scripts do with LC_ALL=C. That counts
+/// more than LANGUAGE, which Qt would follow even then.
+bool hasPlainLocale()
+{
+    for (const char *name : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
+        const QByteArray value = qgetenv(name);
+        if (!value.isEmpty())
+            return value == "C" || value == "POSIX" || value.startsWith("C.");
+    }
+    return true;
+}
+
+/// Pictures need fonts, and those the larger application; no window is ever shown.
+std::unique_ptr<QCoreApplication> makeApplication(int &argc, char **argv)
+{
+    const bool drawsText = std::any_of(argv, argv + argc, [](const char *argument) {
+        return QByteArrayView(argument).startsWith("--png");
+    });
+    if (!drawsText)
+        return std::make_unique<QCoreApplication>(argc, argv);
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    return std::make_unique<QGuiApplication>(argc, argv);
+}
+
+} // namespace Tavrin::Cli
+
+int main(int argc, char **argv)
+{
+    using namespace Tavrin::Cli;
+    using namespace Qt::StringLiterals;
+    const auto application = makeApplication(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("tavrin"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(TAVRIN_VERSION));
+    const QStringList arguments = QCoreApplication::arguments();
+    const Console::PlainStreams streams;
+    // Data is the same in every language.
+    const bool isPlain = arguments.contains("--json"_L1) || hasPlainLocale();
+    const auto translator = isPlain ? nullptr : Tavrin::installTranslations(QLocale());
+    try {
+        readCommonDestinations();
+        return dispatch(arguments);
+    } catch (const std::exception &error) {
+        Console::complain(QString::fromUtf8(error.what()));
+        return BadInput;
+    }
+}

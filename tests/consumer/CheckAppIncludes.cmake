@@ -1,0 +1,17 @@
+# SPDX-License-Identifier: Apache-2.0
+# Our programs use what a host can use, and nothing else.
+file(GLOB_RECURSE sources "${APPS_DIR}/*.h" "${APPS_DIR}/*.cpp")
+set(count 0)
+foreach(source IN LISTS sources)
+  file(STRINGS "${source}" includes REGEX "^#include <Tavrin/")
+  foreach(include IN LISTS includes)
+    string(REGEX REPLACE "^#include <Tavrin/(.*)>.*" "\\1" header "${include}")
+    if(NOT EXISTS "${HEADER_DIR}/${header}")
+      message(SEND_ERROR "${source} includes Tavrin/${header}, which is not installed")
+    endif()
+    math(EXPR count "${count} + 1")
+  endforeach()
+endforeach()
+if(count EQUAL 0)
+  message(FATAL_ERROR "No program below ${APPS_DIR} includes a header of Tavrin")
+endif()
