@@ -156,6 +156,10 @@ void writeAll(const QDir &directory)
     write(directory, u"ReferenceFuzzer"_s,
           {"§ 4.2", "Sec. 4.1-4.2", "FIGURE 4.1", "Tables 4.1 and 4.2", "Clause 4, Fig. 4-1",
            "the title"});
+    write(directory, u"AuditFuzzer"_s,
+          {"# a comment\r\n4.1\nREQ-1\tFig. 4-1\n=cmd()\t@4.2  # why\n\xc3\xa4 \"q\", 4.1-4.2\n",
+           "spec://4.2/fuzzed/1/0/3\nspec://4.2/fuzzed/1/3/0\n4.9\nchapter 4\n",
+           "<script>\t]]>\n{\\rtf1}\n\xef\xb7\x90\xf0\x9d\x90\x80\n"});
     write(directory, u"TermFuzzer"_s,
           {"The floating-\npoint unit's inter-\nrupts aren't raised 1,000 times; see 4.2.1, e.g. "
            "x_y.",

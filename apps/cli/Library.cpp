@@ -7,7 +7,6 @@
 #include <optional>
 
 #include <Tavrin/model/SpecURL.h>
-#include <Tavrin/pdfspec/PDFSpecification.h>
 
 #include "CommandLineError.h"
 
@@ -90,25 +89,6 @@ const std::vector<std::shared_ptr<Specification>> &Library::loadedSpecifications
     return m_manager.specifications();
 }
 
-std::vector<ReferenceResolver::Reference> Library::resolve(const QString &text)
-{
-    using Reference = ReferenceResolver::Reference;
-    if (auto entry = m_manager.entry(text))
-        return {{text, {std::move(entry)}}};
-    std::vector<Reference> unknown{{text, {}}};
-    for (const auto &specification : loadedSpecifications()) {
-        auto references = ReferenceResolver(*specification).resolve(text);
-        const bool knowsOne =
-            std::any_of(references.begin(), references.end(),
-                        [](const Reference &reference) { return !reference.entries.empty(); });
-        if (knowsOne)
-            return references;
-        if (!references.empty())
-            unknown = std::move(references);
-    }
-    return unknown;
-}
-
 std::shared_ptr<Specification> specificationBoundTo(const SpecificationManager &manager,
                                                     const QUrl &file)
 {
@@ -160,19 +140,6 @@ double scaleOption(const QCommandLineParser &parser)
 QUrl fileUrl(const QString &path)
 {
     return QUrl::fromLocalFile(QFileInfo(path).absoluteFilePath());
-}
-
-void readCommonDestinations()
-{
-    const auto needsOnePDF = [](const Specification &specification) {
-        const auto &requirements = specification.auxiliaryFileRequirements();
-        return requirements.size() == 1 &&
-               requirements.front()->fileType == SpecificationAuxiliaryFileTypes::pdf;
-    };
-    const auto configure = [](PDFSpecification &specification) {
-        specification.setReadingPolicy(PDFReadingPolicy::Common);
-    };
-    Specification::registerSpecType(SpecType::of<PDFSpecification>(configure), true, needsOnePDF);
 }
 
 } // namespace Tavrin::Cli

@@ -5,8 +5,8 @@
 
 #include <memory>
 
+#include <Tavrin/manager/EntryFinder.h>
 #include <Tavrin/manager/SpecificationManager.h>
-#include <Tavrin/model/ReferenceResolver.h>
 #include <Tavrin/pdf/CachingPDFDocument.h>
 
 namespace Tavrin::Cli
@@ -35,12 +35,11 @@ public:
     /// can't be loaded throws.
     const std::vector<std::shared_ptr<Specification>> &loadedSpecifications();
 
-    /// What a text names: a label or spec URL, or failing that references as people write them, by
-    /// the first specification that knows any of them. A reference without entries is unknown.
-    std::vector<ReferenceResolver::Reference> resolve(const QString &text);
+    EntryFinder &finder() { return m_finder; }
 
 private:
     SpecificationManager m_manager;
+    EntryFinder m_finder{m_manager};
 };
 
 /// The specification that a file is bound to, or null.
@@ -62,9 +61,5 @@ double scaleOption(const QCommandLineParser &parser);
 
 /// The file URL for a path as a user types it.
 QUrl fileUrl(const QString &path);
-
-/// Makes every PDF specification that is made from now on read places in all the forms that
-/// producers write. Call once, before any map is registered.
-void readCommonDestinations();
 
 } // namespace Tavrin::Cli

@@ -57,7 +57,7 @@ ExitCode LookupCommand::run(const QCommandLineParser &parser) const
     bool allFound = true;
     QJsonArray found;
     for (const QString &text : parser.positionalArguments()) {
-        for (const Reference &reference : library.resolve(text)) {
+        for (const Reference &reference : library.finder().resolve(text)) {
             allFound = allFound && !reference.entries.empty();
             found.append(json(reference));
             if (parser.isSet(u"json"_s))

@@ -18,26 +18,6 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-/// Which of an entry's texts hold one of the words: the reason to show beside a hit.
-QString reason(const SpecificationEntry &entry, const QStringList &words, Qt::CaseSensitivity cs)
-{
-    const auto holds = [&](const QString &text) {
-        return std::any_of(words.begin(), words.end(),
-                           [&](const QString &word) { return text.contains(word, cs); });
-    };
-    QStringList reasons;
-    if (holds(entry.title()))
-        reasons += localized("title", "where a search matched");
-    if (holds(entry.indexString()))
-        reasons += localized("number", "where a search matched");
-    for (const QString &keyword : entry.keywords()) {
-        if (holds(keyword))
-            reasons += localized("keyword %1", "where a search matched").arg(keyword);
-    }
-    return reasons.isEmpty() ? localized("with punctuation left out", "how a search matched")
-                             : reasons.join(u", "_s);
-}
-
 QString tally(std::size_t shown, std::size_t all)
 {
     if (all == 0)
@@ -86,29 +66,23 @@ ExitCode SearchCommand::run(const QCommandLineParser &parser) const
         throw CommandLineError(u"nothing to search for"_s);
     const auto limit = static_cast<std::size_t>(wholeNumber(parser, u"limit"_s, 0));
     const SearchOptions searchOptions = options(parser);
-    const QStringList words = searchOptions.testFlag(SearchOption::MatchEntireString)
-                                  ? QStringList{text}
-                                  : text.simplified().split(u' ');
-    const auto sensitivity = searchOptions.testFlag(SearchOption::CaseSensitive)
-                                 ? Qt::CaseSensitive
-                                 : Qt::CaseInsensitive;
     Library library(parser);
     QJsonArray found;
     std::size_t shown = 0;
     std::size_t all = 0;
     for (const auto &specification : library.loadedSpecifications()) {
-        auto hits = specification->searchEntries(text, searchOptions);
+        auto hits = library.finder().search(*specification, text, searchOptions);
         all += hits.size();
         if (limit > 0 && hits.size() > limit)
             hits.resize(limit);
         shown += hits.size();
         for (const auto &hit : hits) {
-            const QString why = reason(*hit, words, sensitivity);
-            QJsonObject object = EntryReport::json(*hit);
+            const QString why = description(hit);
+            QJsonObject object = EntryReport::json(*hit.entry);
             object[u"matched"_s] = why;
             found.append(object);
             if (!parser.isSet(u"json"_s)) {
-                EntryReport::print(*hit);
+                EntryReport::print(*hit.entry);
                 Console::print(u"    "_s + localized("matched: %1", "reason of a hit").arg(why));
             }
         }

@@ -151,7 +151,7 @@ ExitCode ShowCommand::run(const QCommandLineParser &parser) const
     const QString label = parser.positionalArguments().constFirst();
     requireSoundLineRange(label);
     Library library(parser);
-    const auto references = library.resolve(label);
+    const auto references = library.finder().resolve(label);
     if (references.size() != 1 || references.front().entries.size() > 1)
         throw CommandLineError(u"%1: one entry is wanted; this names several"_s.arg(label));
     if (references.front().entries.empty()) {

@@ -5,12 +5,12 @@
 #include <algorithm>
 #include <memory>
 
+#include <Tavrin/pdfspec/PDFSpecification.h>
 #include <Tavrin/platform/Translations.h>
 
 #include "CommandLineError.h"
 #include "CommandRegistry.h"
 #include "Console.h"
-#include "Library.h"
 
 namespace Tavrin::Cli
 {
@@ -126,7 +126,7 @@ int main(int argc, char **argv)
     const bool isPlain = arguments.contains("--json"_L1) || hasPlainLocale();
     const auto translator = isPlain ? nullptr : Tavrin::installTranslations(QLocale());
     try {
-        readCommonDestinations();
+        Tavrin::PDFSpecification::registerType(Tavrin::PDFReadingPolicy::Common);
         return dispatch(arguments);
     } catch (const std::exception &error) {
         Console::complain(QString::fromUtf8(error.what()));

@@ -97,6 +97,19 @@ TEST_F(AuditFormats, WritesATableThatSpreadsheetsRead)
     EXPECT_EQ(cell(7, u"label"_s), u"2.1.1"_s);
 }
 
+TEST_F(AuditFormats, WritesNoFormulas)
+{
+    QStringList shown;
+    const QStringList texts{u"=1+1"_s,     u"+x"_s,   u"-4.2"_s, u"- item"_s,
+                            u"@SUM(A1)"_s, u"\t=1"_s, u"a=1"_s,  QString()};
+    for (const QString &text : texts) {
+        const AuditReport report = auditor().report({{u"1.1"_s, text, {}}});
+        shown += tableOf(written(report, AuditFormat::CSV))[1][2];
+    }
+    EXPECT_EQ(shown, (QStringList{u"'=1+1"_s, u"'+x"_s, u"-4.2"_s, u"'- item"_s, u"'@SUM(A1)"_s,
+                                  u"'\t=1"_s, u"a=1"_s, QString()}));
+}
+
 TEST_F(AuditFormats, TellsTheSameCountsEverywhere)
 {
     bind();

@@ -3,6 +3,7 @@
 #include <QThreadPool>
 
 #include <Tavrin/manager/SpecificationManager.h>
+#include <Tavrin/platform/BackgroundPool.h>
 
 #include "AuditFixture.h"
 
@@ -59,6 +60,50 @@ TEST_F(Auditor, MakesATable)
     EXPECT_EQ(rows[4][1], u"say ''yes'' or ''no''"_s);
     EXPECT_EQ(progress, (std::vector<double>{0.25, 0.5, 0.75, 1}));
     EXPECT_EQ(auditor().auditCSVComponents({}).size(), 1U);
+}
+
+TEST_F(Auditor, WorksOnAnotherThread)
+{
+    auto other = Specification::make<Specification>();
+    other->add(std::make_shared<SpecificationEntry>(
+        other, u"far"_s, u"Elsewhere"_s, SpecificationEntryType::Table, std::vector<int>{7, 1}));
+    SpecificationManager::shared().setSpecifications({specification, other});
+    specification->entry(u"1.1"_s)->setRelatedEntries({u"spec://2.1/engine/7/3/0"_s, u"far"_s});
+    bind();
+    // A range of lines that ends before it begins would end the process if it was looked up.
+    const QStringList labels{u"1.1"_s, u"spec://1.1/engine/7/3/0"_s, u"spec://1.1/engine/7/0/2"_s,
+                             u"1.1"_s};
+    const auto expected = auditor().auditCSVComponents(labels);
+    EXPECT_EQ(expected[1][2], u"Table 7-1: Elsewhere"_s);
+    EXPECT_EQ(expected[2], QStringList(4));
+    EXPECT_EQ(expected[4], expected[1]);
+    const PDFSpecAuditor detached = auditor().detached();
+    SpecificationManager::shared().setSpecifications({});
+    std::vector<PDFSpecAuditor::Row> rows;
+    AuditReport report;
+    QThreadPool::globalInstance()->start([&] {
+        rows = detached.auditCSVComponents(labels);
+        report = detached.report(references(labels));
+    });
+    // As readers do meanwhile.
+    for (int i = 0; i < 200; ++i)
+        EXPECT_TRUE(specification->entry(u"spec://1.1/engine/7/%1/%2"_s.arg(i % 5).arg(i % 5 + 1)));
+    QThreadPool::globalInstance()->waitForDone();
+    EXPECT_EQ(rows, expected);
+    EXPECT_EQ(report.unknown.size(), 1U);
+    EXPECT_EQ(report.citations.front().related.size(), 1U);
+}
+
+TEST_F(Auditor, StopsAtWhatTheUpdaterThrows)
+{
+    int asked = 0;
+    EXPECT_THROW(auditor().auditCSVComponents({u"1.1"_s, u"1.2"_s}, {}, {},
+                                              [&asked](double) {
+                                                  ++asked;
+                                                  throw std::runtime_error("enough");
+                                              }),
+                 std::runtime_error);
+    EXPECT_EQ(asked, 1);
 }
 
 TEST_F(Auditor, AddsColumnsOfTheHost)
@@ -130,7 +175,7 @@ TEST_F(Auditor, TrapsWhenThereIsNotEnoughToReport)
     EXPECT_DEATH(
         {
             auditor().writeAuditRTF(labels, files.url(u"audit.rtf"_s), {});
-            QThreadPool::globalInstance()->waitForDone();
+            backgroundPool().waitForDone();
         },
         "needs 120 entries");
 }

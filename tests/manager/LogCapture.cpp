@@ -8,7 +8,8 @@ namespace Tavrin::Testing
 
 LogCapture *LogCapture::s_current = nullptr;
 
-LogCapture::LogCapture() : m_previous(qInstallMessageHandler(&LogCapture::receive))
+LogCapture::LogCapture(QByteArray categories)
+    : m_categories(std::move(categories)), m_previous(qInstallMessageHandler(&LogCapture::receive))
 {
     s_current = this;
 }
@@ -26,7 +27,7 @@ QStringList LogCapture::takeMessages()
 
 void LogCapture::receive(QtMsgType /*type*/, const QMessageLogContext &context, const QString &text)
 {
-    if (QByteArrayView(context.category) == "tavrin.manager")
+    if (QByteArrayView(context.category).startsWith(s_current->m_categories))
         s_current->m_messages.append(text);
 }
 

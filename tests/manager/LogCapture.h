@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <QByteArray>
 #include <QStringList>
 
 namespace Tavrin::Testing
@@ -10,18 +11,20 @@ namespace Tavrin::Testing
 class LogCapture
 {
 public:
-    LogCapture();
+    /// Of categories whose names begin so.
+    explicit LogCapture(QByteArray categories = "tavrin.manager");
     ~LogCapture();
     LogCapture(const LogCapture &) = delete;
     LogCapture &operator=(const LogCapture &) = delete;
 
-    /// The messages of the category "tavrin.manager" since the last call.
+    /// The messages since the last call.
     QStringList takeMessages();
 
 private:
     static void receive(QtMsgType type, const QMessageLogContext &context, const QString &text);
 
     static LogCapture *s_current;
+    QByteArray m_categories;
     QtMessageHandler m_previous;
     QStringList m_messages;
 };

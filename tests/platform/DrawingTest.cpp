@@ -1,4 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
+#include <QElapsedTimer>
+
+#include <chrono>
+#include <thread>
+
 #include <gmock/gmock.h>
 
 #include <Tavrin/platform/HostPDFDocument.h>
@@ -81,4 +86,27 @@ TEST(Drawing, RefusesImagesBeyondReason)
     const auto page = pdf->page(0);
     EXPECT_TRUE(page->draw(page->bounds(PDFBox::Crop), {.scale = 1000}).isNull());
     EXPECT_TRUE(page->draw(Rect::null()).isNull());
+}
+
+TEST(Drawing, StopsWhenItIsCalledOff)
+{
+    PDFBuilder pdf;
+    QByteArray squares;
+    for (int i = 0; i < 2'000'000; ++i)
+        squares += "0 0 600 700 re f\n";
+    pdf.addPage().operators(squares);
+    const auto opened = HostPDFDocument::open(pdf.build());
+    const auto page = opened->page(0);
+    DrawingCancellation cancellation;
+    QImage image(1, 1, QImage::Format_RGB32);
+    std::thread drawer(
+        [&] { image = page->draw(page->bounds(PDFBox::Crop), {.cancellation = &cancellation}); });
+    QElapsedTimer timer;
+    timer.start();
+    std::this_thread::sleep_for(std::chrono::milliseconds(50));
+    cancellation.cancel();
+    drawer.join();
+    EXPECT_TRUE(image.isNull());
+    EXPECT_LT(timer.elapsed(), 2000) << "the whole takes far longer";
+    EXPECT_TRUE(page->draw({{0, 0}, {10, 10}}, {.cancellation = &cancellation}).isNull());
 }

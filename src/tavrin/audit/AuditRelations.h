@@ -2,6 +2,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include <Tavrin/model/Specification.h>
@@ -9,11 +10,18 @@
 namespace Tavrin
 {
 
-/// The entries that an entry names as related, in its order: each by the given specification, else
-/// by the others that the shared manager has, in the order of its list. What resolves to nothing
-/// is left out. May load the tables of other specifications; on the thread that the shared manager
-/// is used on.
+/// The specifications beside the audited one, in which related entries are found. The shared
+/// manager's, if there is no list.
+using OtherSpecifications = std::optional<std::vector<std::shared_ptr<Specification>>>;
+
+/// The list that the shared manager has now, with the tables in memory; empty if the entries of
+/// the specification name none but each other.
+std::vector<std::shared_ptr<Specification>> otherSpecifications(Specification &specification);
+
+/// The entries that an entry names as related: of its own specification, else of the first other
+/// that has the label. A label that leads nowhere is left out.
 std::vector<std::shared_ptr<SpecificationEntry>> relatedEntries(const SpecificationEntry &entry,
-                                                                Specification &specification);
+                                                                Specification &specification,
+                                                                const OtherSpecifications &others);
 
 } // namespace Tavrin

@@ -5,7 +5,6 @@
 
 #include <algorithm>
 
-#include <Tavrin/audit/AuditRelations.h>
 #include <Tavrin/model/PrintedNumber.h>
 #include <Tavrin/model/SpecURL.h>
 
@@ -44,8 +43,10 @@ bool matches(const QRegularExpression &pattern, const SpecificationEntry &entry)
 
 } // namespace
 
-AuditReportMaker::AuditReportMaker(const std::shared_ptr<PDFSpecification> &specification)
-    : m_outline(*withTable(specification)),
+AuditReportMaker::AuditReportMaker(const std::shared_ptr<PDFSpecification> &specification,
+                                   OtherSpecifications others)
+    : m_others(std::move(others)),
+      m_outline(*withTable(specification)),
       m_resolver(*specification),
       m_isCited(m_outline.entries().size()),
       m_chapterOf(m_outline.entries().size())
@@ -115,7 +116,7 @@ std::vector<AuditReport::Relation>
 AuditReportMaker::relations(const SpecificationEntry &entry) const
 {
     std::vector<AuditReport::Relation> result;
-    for (const auto &related : relatedEntries(entry, *m_report.specification)) {
+    for (const auto &related : relatedEntries(entry, *m_report.specification, m_others)) {
         const QString title = PrintedNumber::name(*related) + u' ' + related->title();
         result.push_back({title, related});
     }

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include <Tavrin/audit/AuditOutline.h>
+#include <Tavrin/audit/AuditRelations.h>
 #include <Tavrin/audit/AuditReport.h>
 #include <Tavrin/audit/NearestEntry.h>
 #include <Tavrin/model/ReferenceResolver.h>
@@ -17,7 +18,8 @@ namespace Tavrin
 class AuditReportMaker
 {
 public:
-    explicit AuditReportMaker(const std::shared_ptr<PDFSpecification> &specification);
+    explicit AuditReportMaker(const std::shared_ptr<PDFSpecification> &specification,
+                              OtherSpecifications others = {});
 
     AuditReport make(const std::vector<AuditReference> &references, const AuditDemands &demands);
 
@@ -35,6 +37,7 @@ private:
     std::vector<AuditReport::Relation> relations(const SpecificationEntry &entry) const;
 
     AuditReport m_report;
+    OtherSpecifications m_others;
     AuditOutline m_outline;
     ReferenceResolver m_resolver;
     /// Made when the first reference is unknown.

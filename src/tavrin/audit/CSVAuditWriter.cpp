@@ -20,8 +20,18 @@ const QStringList headings{u"status"_s,  u"reference"_s, u"cited by"_s, u"locati
                            u"kind"_s,    u"number"_s,    u"title"_s,    u"page"_s,     u"chapter"_s,
                            u"related"_s, u"nearest"_s,   u"url"_s,      u"summary"_s};
 
+/// Whether a spreadsheet would compute the text instead of showing it.
+bool isFormula(const QString &text)
+{
+    bool isNumber = false;
+    text.toDouble(&isNumber);
+    return !text.isEmpty() && QStringView(u"=+-@\t\r\n").contains(text[0]) && !isNumber;
+}
+
 QString cell(QString text)
 {
+    if (isFormula(text))
+        text.prepend(u'\'');
     static constexpr QChar special[] = {u'"', u',', u'\n', u'\r'};
     const bool isPlain = std::none_of(std::begin(special), std::end(special),
                                       [&](QChar c) { return text.contains(c); }) &&

@@ -14,7 +14,9 @@
 #include <Tavrin/audit/AuditRelations.h>
 #include <Tavrin/audit/AuditReportMaker.h>
 #include <Tavrin/audit/AuditWriter.h>
+#include <Tavrin/model/SpecURL.h>
 #include <Tavrin/pdfspec/PDFSpecificationEntry.h>
+#include <Tavrin/platform/BackgroundPool.h>
 #include <Tavrin/platform/RTFWriter.h>
 #include <Tavrin/platform/StandardError.h>
 #include <Tavrin/platform/StandardOutput.h>
@@ -39,6 +41,8 @@ std::vector<EntryPtr> reportedEntries(PDFSpecification &specification,
 {
     std::vector<EntryPtr> entries;
     for (const QString &reference : references) {
+        if (SpecURL::hasReversedLines(reference))
+            continue;
         if (auto entry =
                 std::dynamic_pointer_cast<PDFSpecification::Entry>(specification.entry(reference)))
             entries.push_back(std::move(entry));
@@ -80,7 +84,7 @@ void writeFile(const QUrl &url, Writing write)
 void runInBackground(const std::function<void()> &work,
                      const PDFSpecAuditor::Completion &completion)
 {
-    QThreadPool::globalInstance()->start([work, completion] {
+    backgroundPool().start([work, completion] {
         bool success = true;
         try {
             work();
@@ -128,6 +132,13 @@ PDFSpecAuditor::PDFSpecAuditor(const std::shared_ptr<PDFSpecification> &specific
           localized("Reference", "spec entry field"), localized("Summary", "spec entry field"),
           localized("Related", "spec entry field"), localized("Label", "spec entry field")}
 {
+}
+
+PDFSpecAuditor PDFSpecAuditor::detached() const
+{
+    PDFSpecAuditor copy(*this);
+    copy.m_others = otherSpecifications(*m_spec);
+    return copy;
 }
 
 const TextAttributes &PDFSpecAuditor::headingAttributes() const
@@ -178,9 +189,11 @@ std::vector<PDFSpecAuditor::Row> PDFSpecAuditor::auditCSVComponents(
     std::vector<Row> rows;
     rows.reserve(std::size_t(references.size()) + 1);
     rows.push_back(m_csvColumnHeadings + customHeadings.value_or(QStringList(extraColumns)));
+    // Works refer to one entry again and again.
+    QHash<const SpecificationEntry *, Row> known;
     for (qsizetype i = 0; i < references.size(); ++i) {
         const auto at = std::size_t(i);
-        rows.push_back(tableRow(references[i]) +
+        rows.push_back(tableRow(references[i], known) +
                        (at < components.size() ? components[at] : QStringList()));
         if (progressUpdater)
             progressUpdater(double(i + 1) / double(references.size()));
@@ -188,15 +201,20 @@ std::vector<PDFSpecAuditor::Row> PDFSpecAuditor::auditCSVComponents(
     return rows;
 }
 
-PDFSpecAuditor::Row PDFSpecAuditor::tableRow(const QString &reference) const
+PDFSpecAuditor::Row PDFSpecAuditor::tableRow(const QString &reference,
+                                             QHash<const SpecificationEntry *, Row> &known) const
 {
-    const auto entry = m_spec->entry(reference);
+    // A range of lines that ends before it begins must not be looked up.
+    const auto entry = SpecURL::hasReversedLines(reference) ? nullptr : m_spec->entry(reference);
     if (!entry)
         return Row(m_csvColumnHeadings.size());
+    if (const auto it = known.constFind(entry.get()); it != known.constEnd())
+        return *it;
     QStringList related;
-    for (const auto &one : relatedEntries(*entry, *m_spec))
+    for (const auto &one : relatedEntries(*entry, *m_spec, m_others))
         related += indexAndTitle(*one);
-    return {indexAndTitle(*entry), summaryCell(*entry), related.join(u'\n'), entry->label()};
+    const Row row{indexAndTitle(*entry), summaryCell(*entry), related.join(u'\n'), entry->label()};
+    return *known.insert(entry.get(), row);
 }
 
 QString PDFSpecAuditor::auditCSV(const QStringList &references,
@@ -217,7 +235,7 @@ QString PDFSpecAuditor::auditCSV(const QStringList &references,
 AuditReport PDFSpecAuditor::report(const std::vector<AuditReference> &references,
                                    const AuditDemands &demands) const
 {
-    return AuditReportMaker(m_spec).make(references, demands);
+    return AuditReportMaker(m_spec, m_others).make(references, demands);
 }
 
 void PDFSpecAuditor::write(const AuditReport &report, AuditFormat format, QIODevice &device,

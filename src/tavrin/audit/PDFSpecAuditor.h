@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <QHash>
 #include <QString>
 #include <QStringList>
 #include <QUrl>
@@ -41,6 +42,14 @@ public:
     PDFSpecAuditor() = delete;
     explicit PDFSpecAuditor(const std::shared_ptr<PDFSpecification> &specification);
 
+    /// The same for another thread, which may then make tables and reports: it knows the
+    /// specifications that the shared manager has now, and asks the manager nothing more. The
+    /// tables that it may need are loaded now, on the thread of the manager.
+    ///
+    /// Whoever audits there holds the specification's reading lock, so that no file is bound
+    /// meanwhile.
+    PDFSpecAuditor detached() const;
+
     const std::shared_ptr<PDFSpecification> &spec() const { return m_spec; }
 
     /// Looks of the rich text report.
@@ -60,7 +69,8 @@ public:
 
     /// A table with a row for each reference below the headings; cells that have nothing to say
     /// are empty, as is the row of an unknown reference but for its custom cells. Without headings
-    /// of their own the custom columns have empty ones.
+    /// of their own the custom columns have empty ones. What the updater throws ends the audit and
+    /// passes through.
     std::vector<Row>
     auditCSVComponents(const QStringList &references,
                        const std::optional<std::vector<QStringList>> &customComponents = {},
@@ -74,7 +84,8 @@ public:
                      const std::optional<QStringList> &forHeadings = {}) const;
 
     /// What the references cover. No page is read; the tables of other specifications may be
-    /// loaded to find related entries, so this belongs on the thread of the shared manager.
+    /// loaded to find related entries, so this belongs on the thread of the shared manager, unless
+    /// the auditor is detached().
     AuditReport report(const std::vector<AuditReference> &references,
                        const AuditDemands &demands = {}) const;
 
@@ -92,9 +103,11 @@ public:
                     const ProgressUpdater &progressUpdater = {}) const;
 
 private:
-    Row tableRow(const QString &reference) const;
+    Row tableRow(const QString &reference, QHash<const SpecificationEntry *, Row> &known) const;
 
     std::shared_ptr<PDFSpecification> m_spec;
+    /// Absent unless detached.
+    std::optional<std::vector<std::shared_ptr<Specification>>> m_others;
     QStringList m_csvColumnHeadings;
 };
 

@@ -11,8 +11,10 @@
 #include <vector>
 
 #include <Tavrin/CoreExport.h>
+#include <Tavrin/model/ReferenceCoverage.h>
 #include <Tavrin/model/Specification.h>
 #include <Tavrin/model/SpecificationComparator.h>
+#include <Tavrin/model/ViewControllerPtr.h>
 
 namespace Tavrin
 {
@@ -30,6 +32,13 @@ namespace Tavrin
 /// files posts TavrinConstants::SpecManagerAuxiliaryFilesChangedNotification on the caller's
 /// thread, with the manager as object. Trouble with the store is logged, and leaves files usable
 /// where they lie.
+///
+/// What a label leads to can be seen: as a summary, for a popover, or as a detail view, for a
+/// window. The manager decides which specification answers, and what to say when none does; the
+/// host decides where a view goes, by the display blocks that it sets. A look-up that fails is no
+/// error: it has a view that says so, or a line in the log, as its result. Views are made by
+/// Tavrin::Widgets, on the main thread. In a process without it nothing can be shown: what returns
+/// a view logs that and returns null, and what displays one does nothing more than log.
 class TAVRIN_CORE_EXPORT SpecificationManager
 {
 public:
@@ -38,6 +47,8 @@ public:
     using SpecificationPredicate = std::function<bool(const Specification &)>;
     using EntryPredicate = std::function<bool(const SpecificationEntry &)>;
     using Comparator = SpecificationComparator::Comparator;
+    /// Puts a view on the screen.
+    using DisplayBlock = std::function<void(const ViewControllerPtr &)>;
 
     /// A directory of maps that could not be listed.
     class TAVRIN_CORE_EXPORT DirectoryError : public std::runtime_error
@@ -159,6 +170,49 @@ public:
 
     static bool acceptAll(const Specification &) { return true; }
 
+    /// Shows detail views, and the prompts in their place. Empty at first: then there are none.
+    const DisplayBlock &detailViewControllerDisplayBlock() const { return m_detailDisplayBlock; }
+    void setDetailViewControllerDisplayBlock(DisplayBlock block);
+    bool canDisplayDetailViewController() const { return bool(m_detailDisplayBlock); }
+    /// Shows the table of imported files. Empty at first: then prompts offer no import.
+    const DisplayBlock &auxiliaryFileBrowserDisplayBlock() const { return m_browserDisplayBlock; }
+    void setAuxiliaryFileBrowserDisplayBlock(DisplayBlock block);
+    bool canDisplayAuxiliaryFileBrowser() const { return bool(m_browserDisplayBlock); }
+    /// The instruction above the table of imported files, in the user's language. Absent at first:
+    /// then it has its own.
+    const std::optional<QString> &auxiliaryFileBrowserHelpText() const { return m_browserHelpText; }
+    void setAuxiliaryFileBrowserHelpText(const std::optional<QString> &text);
+
+    /// The detail view that was displayed last; null if that was a prompt, or is gone. Not kept
+    /// alive.
+    ViewControllerPtr currentDetailViewController() const { return m_currentDetail.lock(); }
+
+    /// A summary of the entry for a label or spec URL, from the first specification that has it and
+    /// its files. Where none has: an empty summary if anything is imported, else a prompt to
+    /// import. Never null where there are windows.
+    ViewControllerPtr summaryLookup(const QString &label,
+                                    const SpecificationPredicate &inSpecsWhere = acceptAll);
+    /// A detail view of the entry of that label, from the first specification that gives one, which
+    /// need not be the entry's own; else a prompt to import. Displays nothing.
+    ViewControllerPtr detailLookup(const EntryPtr &entry);
+    /// Displays the entry for a label or spec URL, else a prompt to import.
+    void showDetailViewController(const QString &label,
+                                  const SpecificationPredicate &inSpecsWhere = acceptAll);
+    /// Displays a specification, with no entry current, else a prompt to import.
+    void showDetailViewController(const SpecificationPtr &specification);
+    /// Displays a specification with the places marked that a body of work cites. Without a detail
+    /// view nothing is displayed.
+    void showSpecCoverage(const ReferenceCoverage &coverage, const SpecificationPtr &specification);
+
+    /// A message that a document is missing, with a button that shows the table of imported files
+    /// if that can be displayed.
+    ViewControllerPtr makeNoSpecsController();
+
+    /// The table of imported files, made anew.
+    ViewControllerPtr auxiliaryFileBrowser();
+    /// Displays one, if there is a block for it.
+    void showAuxiliaryFileBrowser();
+
 private:
     void updateOrderAndPrimary();
     void sortSpecifications();
@@ -169,12 +223,23 @@ private:
     bool isBound(const QUrl &url) const;
     void rebuildSpecification(const QUrl &boundFile);
     void postAuxiliaryFilesChanged();
+    bool isAnySpecificationSatisfied() const;
+    ViewControllerPtr detailFor(const QString &label,
+                                const SpecificationPredicate &inSpecsWhere) const;
+    void displayDetail(const ViewControllerPtr &detail);
+    bool displayPrompt();
 
     std::vector<SpecificationPtr> m_specifications;
     SpecificationPtr m_primarySpecification;
     SpecificationPredicate m_primarySpecificationPredicate;
     std::vector<Comparator> m_specComparators;
     std::optional<std::vector<QUrl>> m_auxiliaryFiles;
+    DisplayBlock m_detailDisplayBlock;
+    DisplayBlock m_browserDisplayBlock;
+    std::optional<QString> m_browserHelpText;
+    std::weak_ptr<ViewController> m_currentDetail;
+    /// By it a prompt that is still on show knows that the manager is there.
+    std::shared_ptr<const void> m_lifetime = std::make_shared<char>();
 };
 
 } // namespace Tavrin

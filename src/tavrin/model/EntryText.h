@@ -8,6 +8,8 @@
 #include <utility>
 #include <vector>
 
+#include <Tavrin/CoreExport.h>
+
 /// What a search asks of one text.
 namespace Tavrin::EntryText
 {
@@ -17,7 +19,7 @@ bool isSeparator(QChar character);
 
 /// User-perceived characters: grapheme clusters (UAX 29). Linear, and cheap for text without
 /// combining marks.
-qsizetype characterCount(QStringView text);
+TAVRIN_CORE_EXPORT qsizetype characterCount(QStringView text);
 
 /// Whether a term occurs in a text from which punctuation, white space and line ends have been
 /// removed. The term is used as it is.

@@ -6,11 +6,13 @@
 #include <Tavrin/model/SpecMapText.h>
 #include <Tavrin/model/SpecMapWriter.h>
 #include <Tavrin/model/SpecURL.h>
+#include <Tavrin/model/ViewControllerFactory.h>
 #include <Tavrin/model/XMLBoolean.h>
 #include <Tavrin/model/XMLError.h>
 #include <Tavrin/platform/Logging.h>
 
 #include <algorithm>
+#include <mutex>
 
 namespace Tavrin
 {
@@ -130,11 +132,13 @@ Specification::EntryPtr Specification::newEntry()
 
 void Specification::add(const EntryPtr &entry)
 {
+    const std::unique_lock lock(m_tableMutex);
     m_entries.insert(entry);
 }
 
 void Specification::remove(const SpecificationEntry &entry)
 {
+    const std::unique_lock lock(m_tableMutex);
     m_entries.remove(entry.label());
 }
 
@@ -163,6 +167,7 @@ Specification::EntryPtr Specification::entry(const QString &label)
 std::vector<Specification::EntryPtr> Specification::searchEntries(const QString &text,
                                                                   SearchOptions options) const
 {
+    const std::shared_lock lock(m_tableMutex);
     return EntrySearch::search(*this, text, options);
 }
 
@@ -183,6 +188,7 @@ float Specification::searchRelevance(const SpecificationEntry &entry, const QStr
 std::vector<Specification::EntryPtr> Specification::mostSimilarEntries(const QString &text,
                                                                        int resultCount) const
 {
+    const std::shared_lock lock(m_tableMutex);
     return EntrySearch::mostSimilar(*this, text, resultCount);
 }
 
@@ -270,7 +276,10 @@ void Specification::readRequirements(const HostXMLDocument &document)
 void Specification::loadMetadata(const HostXMLDocument &document)
 {
     const HostXMLNode root = rootOf(document);
-    m_entries.clear();
+    {
+        const std::unique_lock lock(m_tableMutex);
+        m_entries.clear();
+    }
     setTitle(QString());
     m_identifier.clear();
     m_revision.clear();
@@ -461,6 +470,22 @@ bool Specification::assignAuxiliaryFile(const QUrl & /*url*/,
                                         const AuxiliaryFileRequirement & /*requirement*/)
 {
     return false;
+}
+
+// Views
+
+ViewControllerPtr Specification::summaryViewController(const QString &label)
+{
+    auto *factory = ViewControllerFactory::installed();
+    if (!factory || !areFileRequirementsSatisfied())
+        return nullptr;
+    const EntryPtr found = entry(label);
+    return found ? factory->summary(found) : nullptr;
+}
+
+ViewControllerPtr Specification::detailViewController(const std::optional<QString> & /*label*/)
+{
+    return nullptr;
 }
 
 } // namespace Tavrin

@@ -7,6 +7,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <shared_mutex>
 #include <type_traits>
 #include <vector>
 
@@ -17,6 +18,7 @@
 #include <Tavrin/model/SearchOptions.h>
 #include <Tavrin/model/SpecTypeDefinition.h>
 #include <Tavrin/model/SpecificationEntry.h>
+#include <Tavrin/model/ViewControllerPtr.h>
 #include <Tavrin/platform/HostXMLDocument.h>
 
 namespace Tavrin
@@ -30,7 +32,7 @@ namespace Tavrin
 /// again empties the table. What a failed reading has set stays set.
 ///
 /// Always held by std::shared_ptr, made by make() or withStructureFile(). Used by one thread at a
-/// time; searches may run elsewhere as long as nobody changes the table.
+/// time; searches may run elsewhere, and see the table as it is before or after each change of it.
 class TAVRIN_CORE_EXPORT Specification : public std::enable_shared_from_this<Specification>
 {
 public:
@@ -163,6 +165,13 @@ public:
     /// Does what binding takes, opening the file for example; true if the requirement is met.
     virtual bool assignAuxiliaryFile(const QUrl &url, const AuxiliaryFileRequirement &requirement);
 
+    /// A summary of the entry for a label or spec URL; null if there is none, a file is missing, or
+    /// the process has no windows. Main thread.
+    virtual ViewControllerPtr summaryViewController(const QString &label);
+    /// A detail view at the entry for a label or spec URL, or without one of the whole; null if
+    /// there is none. This class has none. Main thread.
+    virtual ViewControllerPtr detailViewController(const std::optional<QString> &label = {});
+
     /// For diagnostics.
     QString debugDescription() const;
 
@@ -195,6 +204,8 @@ private:
     std::optional<QUrl> m_specMapURL;
     std::optional<QUrl> m_dtdURL;
     EntryTable m_entries;
+    /// Held by changes of the table, and shared by searches.
+    mutable std::shared_mutex m_tableMutex;
     AuxiliaryFileRequirements m_requirements;
 };
 

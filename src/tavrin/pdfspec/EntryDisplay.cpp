@@ -31,14 +31,20 @@ StyledText linkText(const QString &text, const QString &target)
 
 EntryDisplay::EntryDisplay(const PDFSpecification::Entry &entry) : m_entry(entry) {}
 
-std::vector<EntryDisplayItem> EntryDisplay::items() const
+std::vector<EntryDisplayItem> EntryDisplay::knownItems() const
 {
-    const auto specification = m_entry.specification();
     const TextAttributes bold{.font = systemFont(smallFontSize, TextFont::Bold)};
     const StyledText title(m_entry.displayTitle(), bold);
     std::vector<EntryDisplayItem> items{{description(m_entry.type()), QVariant::fromValue(title)}};
-    if (specification)
+    if (const auto specification = m_entry.specification())
         items.push_back({localized("Source", "spec entry field"), specification->title()});
+    return items;
+}
+
+std::vector<EntryDisplayItem> EntryDisplay::items() const
+{
+    const auto specification = m_entry.specification();
+    std::vector<EntryDisplayItem> items = knownItems();
     const auto summary = m_entry.summaryText();
     const auto preview = m_entry.previewImage();
     const bool isShown = specification && specification->allowsPreviews();

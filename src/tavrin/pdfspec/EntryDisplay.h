@@ -15,6 +15,8 @@ public:
     explicit EntryDisplay(const PDFSpecification::Entry &entry);
 
     std::vector<EntryDisplayItem> items() const;
+    /// The first of them, for which nothing is read from the pages.
+    std::vector<EntryDisplayItem> knownItems() const;
 
 private:
     EntryDisplayItem moreItem(const Specification *specification) const;

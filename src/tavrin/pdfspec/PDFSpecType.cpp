@@ -5,14 +5,29 @@
 namespace Tavrin
 {
 
+namespace
+{
+
+bool needsOnePDF(const Specification &specification)
+{
+    const auto &requirements = specification.auxiliaryFileRequirements();
+    return requirements.size() == 1 &&
+           requirements.front()->fileType == SpecificationAuxiliaryFileTypes::pdf;
+}
+
+} // namespace
+
 SpecTypeDefinition builtinSpecTypeDefinition()
 {
-    const auto needsOnePDF = [](const Specification &specification) {
-        const auto &requirements = specification.auxiliaryFileRequirements();
-        return requirements.size() == 1 &&
-               requirements.front()->fileType == SpecificationAuxiliaryFileTypes::pdf;
-    };
     return {SpecType::of<PDFSpecification>(), needsOnePDF};
+}
+
+void PDFSpecification::registerType(PDFReadingPolicy policy)
+{
+    const auto configure = [policy](PDFSpecification &specification) {
+        specification.setReadingPolicy(policy);
+    };
+    Specification::registerSpecType(SpecType::of<PDFSpecification>(configure), true, needsOnePDF);
 }
 
 } // namespace Tavrin

@@ -2,6 +2,7 @@
 #include <Tavrin/pdfspec/PDFSpecification.h>
 
 #include <Tavrin/model/SpecURL.h>
+#include <Tavrin/model/ViewControllerFactory.h>
 #include <Tavrin/pdfspec/DestinationReader.h>
 #include <Tavrin/pdfspec/InternalLink.h>
 #include <Tavrin/pdfspec/PDFSpecificationEntry.h>
@@ -12,6 +13,7 @@
 #include <Tavrin/platform/StandardError.h>
 
 #include <algorithm>
+#include <mutex>
 #include <utility>
 
 namespace Tavrin
@@ -130,6 +132,15 @@ QString PDFSpecification::generateURL(const SpecificationEntry &entry, bool cons
                               QString::number(upper));
 }
 
+ViewControllerPtr PDFSpecification::detailViewController(const std::optional<QString> &label)
+{
+    auto *factory = ViewControllerFactory::installed();
+    if (!factory || !areFileRequirementsSatisfied())
+        return nullptr;
+    const EntryPtr found = label ? entry(*label) : nullptr;
+    return found || !label ? factory->pdfDetail(shared_from_this(), found) : nullptr;
+}
+
 // What PDF adds to the map
 
 bool PDFSpecification::parseXMLEntryChild(const HostXMLNode &child, SpecificationEntry &entry)
@@ -189,6 +200,7 @@ void PDFSpecification::loadPDFStructure(const std::shared_ptr<HostPDFDocument> &
     auto caching = std::dynamic_pointer_cast<CachingPDFDocument>(document);
     if (!caching)
         return;
+    const std::unique_lock lock(m_bindingMutex);
     m_cachingDocument = caching;
     m_reading->forgetPages();
     const std::shared_ptr<const PDFObjectParser> parser(caching, &caching->objects());

@@ -10,6 +10,7 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <shared_mutex>
 #include <stdexcept>
 #include <vector>
 
@@ -69,6 +70,8 @@ public:
     /// the next file that is bound, so set it before.
     PDFReadingPolicy readingPolicy() const { return m_readingPolicy; }
     void setReadingPolicy(PDFReadingPolicy policy) { m_readingPolicy = policy; }
+    /// Has the maps that need one PDF, when they are registered from now on, read it by a policy.
+    static void registerType(PDFReadingPolicy policy);
 
     /// The open document; null while nothing is bound.
     const std::shared_ptr<CachingPDFDocument> &document() const { return m_cachingDocument; }
@@ -115,6 +118,9 @@ public:
     bool doesAuxiliaryFile(const QUrl &url, const AuxiliaryFileRequirement &requirement) override;
     bool assignAuxiliaryFile(const QUrl &url, const AuxiliaryFileRequirement &requirement) override;
 
+    /// Null while a file is missing too.
+    ViewControllerPtr detailViewController(const std::optional<QString> &label = {}) override;
+
     /// The page dictionaries below a node of the page tree, in order. Nodes that the file repeats
     /// or loops to are read once.
     std::vector<PDFDictionaryPtr> readPageTree(const PDFDictionaryPtr &node) const;
@@ -156,6 +162,14 @@ public:
     HostXMLElement xmlElement(const SpecificationEntry &entry) const override;
     HostXMLElement generateRootXMLElement() const override;
     std::vector<HostXMLElement> generateAuxiliaryFileRequirementXMLNodes() const override;
+
+    /// While it is held no file is bound and the printed area stays, so that a background thread
+    /// can read while the thread that binds goes on. To be taken before anything of an entry is
+    /// computed, never while.
+    [[nodiscard]] std::shared_lock<std::shared_mutex> readingLock() const
+    {
+        return std::shared_lock(m_bindingMutex);
+    }
 
     // Reading: the shape of the print
 
@@ -307,6 +321,7 @@ private:
     std::optional<Rect> m_pageBounds;
     mutable std::optional<QMap<QString, HostPDFOutline>> m_documentOutline;
     std::unique_ptr<ReadingCache> m_reading;
+    mutable std::shared_mutex m_bindingMutex;
 };
 
 } // namespace Tavrin

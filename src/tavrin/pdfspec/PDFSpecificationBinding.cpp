@@ -5,6 +5,7 @@
 #include <QFileInfo>
 #include <QScopeGuard>
 
+#include <mutex>
 #include <typeinfo>
 #include <utility>
 
@@ -120,6 +121,7 @@ bool PDFSpecification::recognisesCandidate(const AuxFileMetadata &metadata,
 
 void PDFSpecification::setPageBounds(const std::optional<Rect> &bounds)
 {
+    const std::unique_lock lock(m_bindingMutex);
     m_pageBounds = bounds;
     m_reading->forgetPages();
 }

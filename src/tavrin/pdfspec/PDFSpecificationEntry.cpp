@@ -31,6 +31,7 @@ void PDFSpecification::Entry::copyValuesTo(Entry &other) const
 std::shared_ptr<PDFSpecification::Entry>
 PDFSpecification::Entry::childEntry(StyledTextEditing::LineRange range)
 {
+    const std::lock_guard lock(m_childEntriesLock);
     const auto it =
         std::find_if(m_childEntries.begin(), m_childEntries.end(),
                      [&range](const auto &child) { return child->lineRange() == range; });
@@ -102,12 +103,6 @@ void PDFSpecification::Entry::setDisplayBlock(DisplayBlock block)
     m_needsComputeDisplay = true;
 }
 
-bool PDFSpecification::Entry::needsComputeDisplay() const
-{
-    const std::lock_guard lock(m_displayItemsLock);
-    return m_needsComputeDisplay;
-}
-
 void PDFSpecification::Entry::setNeedsComputeDisplay(bool needs)
 {
     const std::lock_guard lock(m_displayItemsLock);
@@ -131,6 +126,11 @@ void PDFSpecification::Entry::computeDisplay() const
 std::vector<EntryDisplayItem> PDFSpecification::Entry::displayItems() const
 {
     return EntryDisplay(*this).items();
+}
+
+std::vector<EntryDisplayItem> PDFSpecification::Entry::knownDisplayItems() const
+{
+    return EntryDisplay(*this).knownItems();
 }
 
 } // namespace Tavrin

@@ -3,6 +3,7 @@
 
 #include <QImage>
 
+#include <atomic>
 #include <functional>
 #include <mutex>
 
@@ -42,7 +43,8 @@ public:
     /// where they are absent.
     const DisplayBlock &displayBlock() const { return m_displayBlock; }
     void setDisplayBlock(DisplayBlock block);
-    bool needsComputeDisplay() const;
+    /// Whether reading what is shown may take an extraction. Does not wait for one that runs.
+    bool needsComputeDisplay() const { return m_needsComputeDisplay; }
     void setNeedsComputeDisplay(bool needs);
     /// Computes them now, if that was not done yet. Any thread.
     void computeDisplay() const;
@@ -51,6 +53,8 @@ public:
     /// entries. Texts are StyledText, the preview is a QImage, related entries are a list of
     /// StyledText with links. Made on each read; may take as long as an extraction.
     std::vector<EntryDisplayItem> displayItems() const override;
+    /// The first of them, which take no extraction: kind with number and title, source.
+    std::vector<EntryDisplayItem> knownDisplayItems() const;
 
     /// The link to the place, as the map has it or an enhancer found it. Without one the label
     /// itself is the link.
@@ -59,11 +63,20 @@ public:
 
     /// Where the entry begins; absent while nothing is bound and where the link leads nowhere.
     const std::optional<HostPDFDestination> &destination() const { return m_destination; }
-    void setDestination(const std::optional<HostPDFDestination> &place) { m_destination = place; }
+    /// Setting what it is already writes nothing, so that whoever reads meanwhile isn't disturbed.
+    void setDestination(const std::optional<HostPDFDestination> &place)
+    {
+        if (place != m_destination)
+            m_destination = place;
+    }
 
     /// The entry's rectangles by page, if its link gives them.
     const std::optional<PageRects> &destinationRects() const { return m_destinationRects; }
-    void setDestinationRects(const std::optional<PageRects> &rects) { m_destinationRects = rects; }
+    void setDestinationRects(const std::optional<PageRects> &rects)
+    {
+        if (rects != m_destinationRects)
+            m_destinationRects = rects;
+    }
 
     /// The lines of the parent that this entry stands for, from `lower` up to but not including
     /// `upper`; absent for an entry that is no child.
@@ -71,6 +84,7 @@ public:
     /// The entry whose lines these are; null for an entry that is no child.
     std::shared_ptr<Entry> parentEntry() const { return m_parentEntry.lock(); }
     /// The child for a range of lines: the same object for the same range. Owned by this entry.
+    /// Any thread, as long as nobody changes the entry.
     std::shared_ptr<Entry> childEntry(StyledTextEditing::LineRange range);
 
 protected:
@@ -90,13 +104,14 @@ private:
     mutable std::mutex m_valueLock;
     DisplayBlock m_displayBlock;
     mutable bool m_computingDisplay = false;
-    mutable bool m_needsComputeDisplay = true;
-    /// Guards the two above, and is held while the block runs. Recursive, so that the block may
-    /// read the entry.
+    mutable std::atomic<bool> m_needsComputeDisplay = true;
+    /// Guards changes of the three above, and is held while the block runs. Recursive, so that the
+    /// block may read the entry.
     mutable std::recursive_mutex m_displayItemsLock;
     std::optional<StyledTextEditing::LineRange> m_lineRange;
     std::weak_ptr<Entry> m_parentEntry;
     std::vector<std::shared_ptr<Entry>> m_childEntries;
+    std::mutex m_childEntriesLock;
     std::optional<QString> m_internalLink;
     std::optional<HostPDFDestination> m_destination;
     std::optional<PageRects> m_destinationRects;

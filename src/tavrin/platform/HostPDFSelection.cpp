@@ -108,19 +108,17 @@ StyledText HostPDFSelection::attributedString() const
 void HostPDFSelection::addSelection(const HostPDFSelection &other)
 {
     for (const Part &added : other.m_parts) {
-        const auto it = std::find_if(m_parts.begin(), m_parts.end(), [&added](const Part &part) {
-            return part.page == added.page;
-        });
-        if (it == m_parts.end()) {
-            m_parts.push_back(added);
+        // Parts stand by page, so that a selection grows along a document in linear time.
+        const auto it = std::lower_bound(
+            m_parts.begin(), m_parts.end(), added,
+            [](const Part &a, const Part &b) { return a.page->index() < b.page->index(); });
+        if (it == m_parts.end() || it->page != added.page) {
+            m_parts.insert(it, added);
             continue;
         }
         it->ranges.insert(it->ranges.end(), added.ranges.begin(), added.ranges.end());
         it->ranges = merged(std::move(it->ranges));
     }
-    std::stable_sort(m_parts.begin(), m_parts.end(), [](const Part &a, const Part &b) {
-        return a.page->index() < b.page->index();
-    });
 }
 
 } // namespace Tavrin

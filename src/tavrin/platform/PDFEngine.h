@@ -11,6 +11,7 @@
 #include <vector>
 
 #include <Tavrin/CoreExport.h>
+#include <Tavrin/platform/DrawingCancellation.h>
 #include <Tavrin/platform/PDFObjectParser.h>
 #include <Tavrin/platform/PageGeometry.h>
 #include <Tavrin/platform/StyledText.h>
@@ -92,6 +93,8 @@ struct PageDrawing {
     double scale = 1;
     bool annotations = false;
     QColor background = Qt::white;
+    /// By which another thread may call it off; null if none does.
+    DrawingCancellation *cancellation = nullptr;
 };
 
 /// An open file, as an engine reads it.
@@ -111,7 +114,9 @@ public:
     virtual std::vector<PDFAnnotationRecord> annotations(int page) const = 0;
 
     /// An area of page space as displayed, area.width × area.height × scale pixels, rounded up.
-    /// A null image if there is no such page or the image would exceed 64 million pixels.
+    /// A null image if there is no such page, it can't be loaded, the drawing was called off, or
+    /// the image would exceed 64 million pixels. A page whose content breaks off shows what came
+    /// before.
     virtual QImage draw(int page, const Rect &area, const PageDrawing &drawing) const = 0;
 
     /// The text values of the document information dictionary: "Title", "Author" and so on.

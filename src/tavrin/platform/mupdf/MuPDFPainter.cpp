@@ -4,6 +4,7 @@
 #include <Tavrin/platform/mupdf/MuPDFGlyphReader.h>
 #include <Tavrin/platform/mupdf/MuPDFPageTree.h>
 
+#include <algorithm>
 #include <cmath>
 
 namespace Tavrin::MuPDFPainter
@@ -14,16 +15,24 @@ namespace
 
 constexpr double mostPixels = 64e6;
 
+/// How far a drawing has come.
+enum class Outcome { Nothing, BrokenOff, Whole };
+
 /// The engine draws straight into the image's memory: both hold blue, green, red and an unused
 /// byte a pixel.
-void draw(const MuPDFSession &session, int index, fz_matrix matrix, bool withAnnotations,
-          QImage &image)
+Outcome draw(const MuPDFSession &session, int index, fz_matrix matrix, const PageDrawing &drawing,
+             QImage &image)
 {
     const int width = image.width();
     const int height = image.height();
     unsigned char *bytes = image.bits();
     const auto stride = static_cast<int>(image.bytesPerLine());
-    session.run([=](fz_context *context, pdf_document *document) {
+    const bool withAnnotations = drawing.annotations;
+    bool isLoaded = false;
+    bool isWhole = false;
+    fz_cookie progress{};
+    const DrawingCancellation::Watch watch(drawing.cancellation, progress.abort);
+    session.run([=, &isLoaded, &isWhole, &progress](fz_context *context, pdf_document *document) {
         pdf_page *page = nullptr;
         fz_pixmap *pixmap = nullptr;
         fz_device *device = nullptr;
@@ -33,17 +42,19 @@ void draw(const MuPDFSession &session, int index, fz_matrix matrix, bool withAnn
         fz_try(context)
         {
             page = MuPDFPageTree::loadPage(context, document, index);
+            isLoaded = true;
             // With an alpha channel a pixel has four bytes; the background is opaque already.
             pixmap = fz_new_pixmap_with_data(context, fz_device_bgr(context), width, height,
                                              nullptr, 1, stride, bytes);
             const fz_matrix all = runMatrix(context, page, matrix);
             device = fz_new_draw_device(context, fz_identity, pixmap);
-            pdf_run_page_contents(context, page, device, all, nullptr);
+            pdf_run_page_contents(context, page, device, all, &progress);
             if (withAnnotations) {
-                pdf_run_page_annots(context, page, device, all, nullptr);
-                pdf_run_page_widgets(context, page, device, all, nullptr);
+                pdf_run_page_annots(context, page, device, all, &progress);
+                pdf_run_page_widgets(context, page, device, all, &progress);
             }
             fz_close_device(context, device);
+            isWhole = progress.errors == 0;
         }
         fz_always(context)
         {
@@ -54,6 +65,22 @@ void draw(const MuPDFSession &session, int index, fz_matrix matrix, bool withAnn
         }
         fz_catch(context) {}
     });
+    if (!isLoaded || (drawing.cancellation && drawing.cancellation->isCancelled()))
+        return Outcome::Nothing;
+    return isWhole ? Outcome::Whole : Outcome::BrokenOff;
+}
+
+bool isBlank(const QImage &image, QRgb background)
+{
+    for (int y = 0; y < image.height(); ++y) {
+        const auto *line = reinterpret_cast<const QRgb *>(image.constScanLine(y));
+        const auto differs = [background](QRgb pixel) {
+            return (pixel | 0xff000000) != (background | 0xff000000);
+        };
+        if (std::any_of(line, line + image.width(), differs))
+            return false;
+    }
+    return true;
 }
 
 } // namespace
@@ -75,8 +102,13 @@ QImage paint(const MuPDFSession &session, int page, const PageGeometry &geometry
     const auto scale = static_cast<float>(drawing.scale);
     const fz_matrix matrix =
         fz_concat(fz_concat(deviceMatrix(geometry), toArea), fz_scale(scale, scale));
-    draw(session, page, matrix, drawing.annotations, image);
-    return image;
+    const Outcome outcome = draw(session, page, matrix, drawing, image);
+    // A page that breaks off before anything is drawn is no empty page.
+    const bool isWholePage = upright.size.width >= geometry.uprightSize().width - 1 &&
+                             upright.size.height >= geometry.uprightSize().height - 1;
+    const bool isLost =
+        outcome == Outcome::BrokenOff && isWholePage && isBlank(image, drawing.background.rgb());
+    return outcome == Outcome::Nothing || isLost ? QImage() : image;
 }
 
 } // namespace Tavrin::MuPDFPainter

@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: Apache-2.0
+#include <Tavrin/model/ViewControllerFactory.h>
+
+#include <utility>
+
+namespace Tavrin
+{
+
+namespace
+{
+
+std::unique_ptr<ViewControllerFactory> &factory()
+{
+    static std::unique_ptr<ViewControllerFactory> installed;
+    return installed;
+}
+
+} // namespace
+
+ViewControllerFactory::~ViewControllerFactory() = default;
+
+ViewControllerFactory *ViewControllerFactory::installed()
+{
+    return factory().get();
+}
+
+void ViewControllerFactory::install(std::unique_ptr<ViewControllerFactory> made)
+{
+    factory() = std::move(made);
+}
+
+} // namespace Tavrin
