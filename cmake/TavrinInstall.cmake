@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: Apache-2.0
 # What an installation holds: the libraries with their public headers and a package
-# configuration, the command line, the grammar of maps, and the licence.
+# configuration, the programs, the grammar of maps, and the licence.
 
 include(CMakePackageConfigHelpers)
 
@@ -15,11 +15,31 @@ install(EXPORT TavrinCoreTargets NAMESPACE Tavrin:: DESTINATION "${TAVRIN_PACKAG
 install(FILES "${CMAKE_BINARY_DIR}/include/Tavrin/CoreExport.h"
   DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/Tavrin")
 
-if(TARGET tavrin)
-  # The program finds the library beside it, wherever the tree is moved to.
-  file(RELATIVE_PATH library_dir "${CMAKE_INSTALL_FULL_BINDIR}" "${CMAKE_INSTALL_FULL_LIBDIR}")
-  set_target_properties(tavrin PROPERTIES INSTALL_RPATH "$ORIGIN/${library_dir}")
-  install(TARGETS tavrin RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
+if(TARGET TavrinWidgets)
+  install(TARGETS TavrinWidgets EXPORT TavrinWidgetsTargets
+    LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}"
+    ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}"
+    RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
+  install(EXPORT TavrinWidgetsTargets NAMESPACE Tavrin:: DESTINATION "${TAVRIN_PACKAGE_DIR}")
+  install(FILES "${CMAKE_BINARY_DIR}/include/Tavrin/WidgetsExport.h"
+    DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/Tavrin")
+  # It finds Core beside it, wherever the tree is moved to.
+  set_target_properties(TavrinWidgets PROPERTIES INSTALL_RPATH "$ORIGIN")
+endif()
+
+# The programs find the library beside them, wherever the tree is moved to.
+file(RELATIVE_PATH library_dir "${CMAKE_INSTALL_FULL_BINDIR}" "${CMAKE_INSTALL_FULL_LIBDIR}")
+foreach(program IN ITEMS tavrin tavrin-reader)
+  if(TARGET ${program})
+    set_target_properties(${program} PROPERTIES INSTALL_RPATH "$ORIGIN/${library_dir}")
+    install(TARGETS ${program} RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
+  endif()
+endforeach()
+if(TARGET tavrin-reader)
+  install(FILES apps/reader/tavrin-reader.desktop
+    DESTINATION "${CMAKE_INSTALL_DATADIR}/applications")
+  install(FILES apps/reader/tavrin-reader.svg
+    DESTINATION "${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps")
 endif()
 
 configure_package_config_file(cmake/TavrinConfig.cmake.in "${CMAKE_BINARY_DIR}/TavrinConfig.cmake"

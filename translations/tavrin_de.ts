@@ -403,5 +403,1000 @@
         <comment>spec audit message</comment>
         <translation>&lt;kein Wert&gt;</translation>
     </message>
+    <message>
+        <source>Find in document</source>
+        <comment>Empty find field of a PDF view</comment>
+        <translation>Im Dokument suchen</translation>
+    </message>
+    <message>
+        <source>Previous hit</source>
+        <comment>Button of the find bar</comment>
+        <translation>Vorheriger Treffer</translation>
+    </message>
+    <message>
+        <source>Next hit</source>
+        <comment>Button of the find bar</comment>
+        <translation>Nächster Treffer</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <comment>Button of the find bar</comment>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>No hits</source>
+        <comment>Count of the find bar</comment>
+        <translation>Keine Treffer</translation>
+    </message>
+    <message>
+        <source>No document is open.</source>
+        <comment>In an empty PDF view</comment>
+        <translation>Es ist kein Dokument geöffnet.</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <comment>Accessible name of a PDF view</comment>
+        <translation>Dokument</translation>
+    </message>
+    <message>
+        <source>Page %1</source>
+        <comment>Accessible description of a PDF view</comment>
+        <translation>Seite %1</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <comment>Menu of a PDF view</comment>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Copy Link</source>
+        <comment>Menu of a PDF view</comment>
+        <translation>Link kopieren</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <comment>Menu of a PDF view</comment>
+        <translation>Alles auswählen</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <comment>Menu of a PDF view</comment>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <comment>Menu of a PDF view</comment>
+        <translation>Vor</translation>
+    </message>
+    <message>
+        <source>Find…</source>
+        <comment>Menu of a PDF view</comment>
+        <translation>Suchen …</translation>
+    </message>
+    <message>
+        <source>Inverted Pages</source>
+        <comment>Menu of a PDF view</comment>
+        <translation>Seiten invertieren</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <comment>Page number and number of pages</comment>
+        <translation>%1 von %2</translation>
+    </message>
+    <message>
+        <source>%1 (%2 of %3)</source>
+        <comment>Printed page number, page and number of pages</comment>
+        <translation>%1 (%2 von %3)</translation>
+    </message>
+    <message>
+        <source>This page can&apos;t be shown.</source>
+        <comment>In place of a broken page of a PDF</comment>
+        <translation>Diese Seite kann nicht angezeigt werden.</translation>
+    </message>
+    <message>
+        <source>Copy Link</source>
+        <comment>menu item</comment>
+        <translation>Link kopieren</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <comment>menu item</comment>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <comment>menu item</comment>
+        <translation>Alles auswählen</translation>
+    </message>
+    <message>
+        <source>Outline</source>
+        <comment>sidebar</comment>
+        <translation>Gliederung</translation>
+    </message>
+    <message>
+        <source>Filter the outline</source>
+        <comment>empty field of a sidebar</comment>
+        <translation>Gliederung filtern</translation>
+    </message>
+    <message>
+        <source>No title of the outline holds all of these words. Check their spelling, or use fewer words.</source>
+        <comment>outline sidebar</comment>
+        <translation>Kein Titel der Gliederung enthält alle diese Wörter. Prüfen Sie die Schreibweise, oder verwenden Sie weniger Wörter.</translation>
+    </message>
+    <message>
+        <source>Title, number or keyword</source>
+        <comment>empty search field of a sidebar</comment>
+        <translation>Titel, Nummer oder Stichwort</translation>
+    </message>
+    <message>
+        <source>Search entries</source>
+        <comment>sidebar</comment>
+        <translation>Einträge suchen</translation>
+    </message>
+    <message>
+        <source>Entries found</source>
+        <comment>sidebar</comment>
+        <translation>Gefundene Einträge</translation>
+    </message>
+    <message>
+        <source>No entry has all of these words in its title, number or keywords. Check their spelling, or use fewer words.</source>
+        <comment>search sidebar</comment>
+        <translation>Kein Eintrag enthält alle diese Wörter in Titel, Nummer oder Stichwörtern. Prüfen Sie die Schreibweise, oder verwenden Sie weniger Wörter.</translation>
+    </message>
+    <message>
+        <source>&lt;cannot display this type&gt;</source>
+        <comment>spec entry value</comment>
+        <translation>&lt;Dieser Typ kann nicht angezeigt werden&gt;</translation>
+    </message>
+    <message>
+        <source>No imported specification has this reference. Check how it is written, or import another document.</source>
+        <comment>summary of no entry</comment>
+        <translation>Keine importierte Spezifikation enthält diese Referenz. Prüfen Sie die Schreibweise, oder importieren Sie ein weiteres Dokument.</translation>
+    </message>
+    <message>
+        <source>Summary of the entry</source>
+        <comment>accessible name</comment>
+        <translation>Zusammenfassung des Eintrags</translation>
+    </message>
+    <message>
+        <source>Loading…</source>
+        <comment>spec entry value</comment>
+        <translation>Wird geladen …</translation>
+    </message>
+    <message>
+        <source>Unrecognized</source>
+        <comment>spec aux file match status</comment>
+        <translation>Nicht erkannt</translation>
+    </message>
+    <message>
+        <source>Not Loaded</source>
+        <comment>spec aux file match status</comment>
+        <translation>Nicht geladen</translation>
+    </message>
+    <message>
+        <source>Specification</source>
+        <comment>column of the imported files</comment>
+        <translation>Spezifikation</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <comment>column of the imported files</comment>
+        <translation>Status</translation>
+    </message>
+    <message>
+        <source>Import Errors</source>
+        <comment>aux file assignment error title</comment>
+        <translation>Fehler beim Importieren</translation>
+    </message>
+    <message>
+        <source>Import a supported specification to look up reference topics inline:</source>
+        <comment>auxiliary file browser instruction</comment>
+        <translation>Importieren Sie eine unterstützte Spezifikation, um Referenzen direkt nachzuschlagen:</translation>
+    </message>
+    <message>
+        <source>Specifications</source>
+        <comment>auxiliary file browser title</comment>
+        <translation>Spezifikationen</translation>
+    </message>
+    <message>
+        <source>Import and remove</source>
+        <comment>accessible name of the buttons below imported files</comment>
+        <translation>Importieren und entfernen</translation>
+    </message>
+    <message>
+        <source>Import a file</source>
+        <comment>button below imported files</comment>
+        <translation>Datei importieren</translation>
+    </message>
+    <message>
+        <source>Remove the files of the selected rows</source>
+        <comment>button below imported files</comment>
+        <translation>Dateien der ausgewählten Zeilen entfernen</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <comment>button of an imported file</comment>
+        <translation>Ansehen</translation>
+    </message>
+    <message>
+        <source>View %1</source>
+        <comment>accessible name of the button of an imported file</comment>
+        <translation>%1 ansehen</translation>
+    </message>
+    <message>
+        <source>Drop files here, or press + to choose one.</source>
+        <comment>hint in the table of imported files</comment>
+        <translation>Legen Sie Dateien hier ab, oder wählen Sie mit + eine aus.</translation>
+    </message>
+    <message>
+        <source>Choose a specification file to import.</source>
+        <comment>auxiliary file browser open panel</comment>
+        <translation>Wählen Sie eine Spezifikationsdatei zum Importieren.</translation>
+    </message>
+    <message>
+        <source>Specifications</source>
+        <comment>file type in a panel</comment>
+        <translation>Spezifikationen</translation>
+    </message>
+    <message>
+        <source>Importing…</source>
+        <comment>aux file import progress title</comment>
+        <translation>Wird importiert …</translation>
+    </message>
+    <message>
+        <source>latest</source>
+        <comment>status indicating that this version of the spec is latest</comment>
+        <translation>aktuell</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <comment>alert button</comment>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>You have not imported a spec for this reference yet. Would you like to choose a file now?</source>
+        <comment>no specs error prompt</comment>
+        <translation>Sie haben noch keine Spezifikation für diese Referenz importiert. Möchten Sie jetzt eine Datei auswählen?</translation>
+    </message>
+    <message>
+        <source>You have not imported a spec for this reference.</source>
+        <comment>no specs error message</comment>
+        <translation>Sie haben keine Spezifikation für diese Referenz importiert.</translation>
+    </message>
+    <message>
+        <source>You have not imported any specs yet. Would you like to choose a file now?</source>
+        <comment>no specs error prompt</comment>
+        <translation>Sie haben noch keine Spezifikationen importiert. Möchten Sie jetzt eine Datei auswählen?</translation>
+    </message>
+    <message>
+        <source>You have not imported any specs yet.</source>
+        <comment>no specs error message</comment>
+        <translation>Sie haben noch keine Spezifikationen importiert.</translation>
+    </message>
+    <message>
+        <source>Import Specs</source>
+        <comment>no specs error button</comment>
+        <translation>Spezifikationen importieren</translation>
+    </message>
+    <message>
+        <source>The file is too large.</source>
+        <comment>fault of a file</comment>
+        <translation>Die Datei ist zu groß.</translation>
+    </message>
+    <message>
+        <source>%1 at byte %2</source>
+        <comment>fault of a file</comment>
+        <translation>%1 bei Byte %2</translation>
+    </message>
+    <message>
+        <source>This is no list of citations.</source>
+        <comment>fault of a file</comment>
+        <translation>Das ist keine Liste von Zitaten.</translation>
+    </message>
+    <message>
+        <source>New passage</source>
+        <comment>a passage without text</comment>
+        <translation>Neue Textstelle</translation>
+    </message>
+    <message>
+        <source>Citations (*.json)</source>
+        <comment>filter of a dialog</comment>
+        <translation>Zitate (*.json)</translation>
+    </message>
+    <message>
+        <source>Passages</source>
+        <comment>name of a list</comment>
+        <translation>Textstellen</translation>
+    </message>
+    <message>
+        <source>Add a passage</source>
+        <comment>button</comment>
+        <translation>Textstelle hinzufügen</translation>
+    </message>
+    <message>
+        <source>Remove the passage</source>
+        <comment>button</comment>
+        <translation>Textstelle entfernen</translation>
+    </message>
+    <message>
+        <source>&amp;Passage</source>
+        <comment>label of a field</comment>
+        <translation>&amp;Textstelle</translation>
+    </message>
+    <message>
+        <source>Passage</source>
+        <comment>name of a field</comment>
+        <translation>Textstelle</translation>
+    </message>
+    <message>
+        <source>&amp;Cites</source>
+        <comment>label of a field</comment>
+        <translation>&amp;Zitiert</translation>
+    </message>
+    <message>
+        <source>Cited entries</source>
+        <comment>name of a field</comment>
+        <translation>Zitierte Einträge</translation>
+    </message>
+    <message>
+        <source>Type a number or words of a title</source>
+        <comment>placeholder of a field</comment>
+        <translation>Nummer oder Wörter eines Titels eingeben</translation>
+    </message>
+    <message>
+        <source>Choose in Document…</source>
+        <comment>button</comment>
+        <translation>Im Dokument auswählen …</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <comment>menu</comment>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Open…</source>
+        <comment>menu item</comment>
+        <translation>Ö&amp;ffnen …</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <comment>menu item</comment>
+        <translation>&amp;Speichern</translation>
+    </message>
+    <message>
+        <source>Save &amp;As…</source>
+        <comment>menu item</comment>
+        <translation>Speichern &amp;unter …</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <comment>menu item</comment>
+        <translation>S&amp;chließen</translation>
+    </message>
+    <message>
+        <source>&amp;References</source>
+        <comment>menu</comment>
+        <translation>&amp;Verweise</translation>
+    </message>
+    <message>
+        <source>&amp;Audit…</source>
+        <comment>menu item</comment>
+        <translation>&amp;Prüfen …</translation>
+    </message>
+    <message>
+        <source>Show &amp;Coverage in Document</source>
+        <comment>menu item</comment>
+        <translation>&amp;Abdeckung im Dokument zeigen</translation>
+    </message>
+    <message>
+        <source>The citations could not be opened.</source>
+        <comment>alert</comment>
+        <translation>Die Zitate konnten nicht geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>The citations could not be saved.</source>
+        <comment>alert</comment>
+        <translation>Die Zitate konnten nicht gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>New Citations</source>
+        <comment>title of a window</comment>
+        <translation>Neue Zitate</translation>
+    </message>
+    <message>
+        <source>Open Citations</source>
+        <comment>title of a dialog</comment>
+        <translation>Zitate öffnen</translation>
+    </message>
+    <message>
+        <source>Save Citations</source>
+        <comment>title of a dialog</comment>
+        <translation>Zitate speichern</translation>
+    </message>
+    <message>
+        <source>Do you want to save the changes?</source>
+        <comment>alert</comment>
+        <translation>Möchten Sie die Änderungen speichern?</translation>
+    </message>
+    <message>
+        <source>They are lost if you don&apos;t.</source>
+        <comment>alert</comment>
+        <translation>Andernfalls gehen sie verloren.</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <comment>alert button</comment>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <comment>alert button</comment>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Don&apos;t Save</source>
+        <comment>alert button</comment>
+        <translation>Nicht speichern</translation>
+    </message>
+    <message>
+        <source>Go to any entry</source>
+        <comment>placeholder of the palette</comment>
+        <translation>Zu einem beliebigen Eintrag gehen</translation>
+    </message>
+    <message>
+        <source>Suggestions</source>
+        <comment>name of a list</comment>
+        <translation>Vorschläge</translation>
+    </message>
+    <message>
+        <source>Number, title or spec URL</source>
+        <comment>placeholder of the lookup field</comment>
+        <translation>Nummer, Titel oder Spec-URL</translation>
+    </message>
+    <message>
+        <source>Look up</source>
+        <comment>name of the lookup field</comment>
+        <translation>Nachschlagen</translation>
+    </message>
+    <message>
+        <source>Drop to import</source>
+        <comment>drop target</comment>
+        <translation>Zum Importieren ablegen</translation>
+    </message>
+    <message>
+        <source>Recent places</source>
+        <comment>heading of a list</comment>
+        <translation>Zuletzt angesehen</translation>
+    </message>
+    <message>
+        <source>Open &amp;Maps…</source>
+        <comment>menu item</comment>
+        <translation>&amp;Karten öffnen …</translation>
+    </message>
+    <message>
+        <source>&amp;Import PDF…</source>
+        <comment>menu item</comment>
+        <translation>PDF &amp;importieren …</translation>
+    </message>
+    <message>
+        <source>&amp;Specifications…</source>
+        <comment>menu item</comment>
+        <translation>&amp;Spezifikationen …</translation>
+    </message>
+    <message>
+        <source>&amp;New Citations</source>
+        <comment>menu item</comment>
+        <translation>&amp;Neue Zitate</translation>
+    </message>
+    <message>
+        <source>Open &amp;Citations…</source>
+        <comment>menu item</comment>
+        <translation>&amp;Zitate öffnen …</translation>
+    </message>
+    <message>
+        <source>&amp;Audit References…</source>
+        <comment>menu item</comment>
+        <translation>&amp;Verweise prüfen …</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <comment>menu item</comment>
+        <translation>&amp;Beenden</translation>
+    </message>
+    <message>
+        <source>&amp;Go</source>
+        <comment>menu</comment>
+        <translation>&amp;Gehe zu</translation>
+    </message>
+    <message>
+        <source>&amp;Look Up</source>
+        <comment>menu item</comment>
+        <translation>&amp;Nachschlagen</translation>
+    </message>
+    <message>
+        <source>Go to &amp;Entry…</source>
+        <comment>menu item</comment>
+        <translation>Zu &amp;Eintrag gehen …</translation>
+    </message>
+    <message>
+        <source>&amp;Clear Recent Places</source>
+        <comment>menu item</comment>
+        <translation>Zuletzt angesehene &amp;löschen</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <comment>menu</comment>
+        <translation>&amp;Ansicht</translation>
+    </message>
+    <message>
+        <source>&amp;Look-up Pane</source>
+        <comment>menu item</comment>
+        <translation>&amp;Nachschlagebereich</translation>
+    </message>
+    <message>
+        <source>The maps could not all be read.</source>
+        <comment>alert</comment>
+        <translation>Nicht alle Karten konnten gelesen werden.</translation>
+    </message>
+    <message>
+        <source>The file could not be opened.</source>
+        <comment>alert</comment>
+        <translation>Die Datei konnte nicht geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>Open Maps</source>
+        <comment>title of a dialog</comment>
+        <translation>Karten öffnen</translation>
+    </message>
+    <message>
+        <source>Import PDF</source>
+        <comment>title of a dialog</comment>
+        <translation>PDF importieren</translation>
+    </message>
+    <message>
+        <source>PDF files (*.pdf)</source>
+        <comment>filter of a dialog</comment>
+        <translation>PDF-Dateien (*.pdf)</translation>
+    </message>
+    <message>
+        <source>Audit References</source>
+        <comment>title of a dialog</comment>
+        <translation>Verweise prüfen</translation>
+    </message>
+    <message>
+        <source>There is nothing to audit.</source>
+        <comment>alert</comment>
+        <translation>Es gibt nichts zu prüfen.</translation>
+    </message>
+    <message>
+        <source>None of the references leads into a specification whose PDF is imported.</source>
+        <comment>alert</comment>
+        <translation>Keiner der Verweise führt in eine Spezifikation, deren PDF importiert ist.</translation>
+    </message>
+    <message>
+        <source>The references could not be read.</source>
+        <comment>alert</comment>
+        <translation>Die Verweise konnten nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>No entry for “%1”.
+
+Type a number such as 4.2, a figure such as Fig. 3-7, or words of a title.</source>
+        <comment>answer of a look-up</comment>
+        <translation>Kein Eintrag für „%1“.
+
+Geben Sie eine Nummer wie 4.2, eine Abbildung wie Fig. 3-7 oder Wörter eines Titels ein.</translation>
+    </message>
+    <message>
+        <source>The entry could not be looked up.</source>
+        <comment>alert</comment>
+        <translation>Der Eintrag konnte nicht nachgeschlagen werden.</translation>
+    </message>
+    <message>
+        <source>Look up a number, a title or a spec URL above.
+Ctrl+K goes to any entry.</source>
+        <comment>empty state</comment>
+        <translation>Schlagen Sie oben eine Nummer, einen Titel oder eine Spec-URL nach.
+Strg+K führt zu jedem Eintrag.</translation>
+    </message>
+    <message>
+        <source>No maps are open.
+
+Choose a directory of spec maps with File ▸ Open Maps.</source>
+        <comment>empty state</comment>
+        <translation>Es sind keine Karten geöffnet.
+
+Wählen Sie ein Verzeichnis mit Karten unter Datei ▸ Karten öffnen.</translation>
+    </message>
+    <message>
+        <source>Drop the PDF of a specification here to import it.</source>
+        <comment>empty state</comment>
+        <translation>Legen Sie das PDF einer Spezifikation hier ab, um es zu importieren.</translation>
+    </message>
+    <message>
+        <source>Look up an entry to open its document.</source>
+        <comment>empty state</comment>
+        <translation>Schlagen Sie einen Eintrag nach, um sein Dokument zu öffnen.</translation>
+    </message>
+    <message>
+        <source>Cited In</source>
+        <comment>column of an audit</comment>
+        <translation>Zitiert in</translation>
+    </message>
+    <message>
+        <source>Web page</source>
+        <comment>audit format</comment>
+        <translation>Webseite</translation>
+    </message>
+    <message>
+        <source>Rich text</source>
+        <comment>audit format</comment>
+        <translation>Formatierter Text</translation>
+    </message>
+    <message>
+        <source>Table</source>
+        <comment>audit format</comment>
+        <translation>Tabelle</translation>
+    </message>
+    <message>
+        <source>JSON</source>
+        <comment>audit format</comment>
+        <translation>JSON</translation>
+    </message>
+    <message>
+        <source>JUnit test results</source>
+        <comment>audit format</comment>
+        <translation>JUnit-Testergebnisse</translation>
+    </message>
+    <message>
+        <source>Export Audit</source>
+        <comment>audit export title</comment>
+        <translation>Prüfbericht exportieren</translation>
+    </message>
+    <message>
+        <source>Writing the audit…</source>
+        <comment>audit export sheet</comment>
+        <translation>Der Prüfbericht wird geschrieben …</translation>
+    </message>
+    <message>
+        <source>The audit could not be written.</source>
+        <comment>audit export error</comment>
+        <translation>Der Prüfbericht konnte nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>“%1” leads to no entry of this specification.</source>
+        <comment>spec audit message</comment>
+        <translation>„%1“ führt zu keinem Eintrag dieser Spezifikation.</translation>
+    </message>
+    <message>
+        <source>%1 matches</source>
+        <comment>spec audit search</comment>
+        <translation>%1 Treffer</translation>
+    </message>
+    <message>
+        <source>No matches</source>
+        <comment>spec audit search</comment>
+        <translation>Keine Treffer</translation>
+    </message>
+    <message>
+        <source>Column %1</source>
+        <comment>spec audit menu item</comment>
+        <translation>Spalte %1</translation>
+    </message>
+    <message>
+        <source>Sort By</source>
+        <comment>spec audit menu item</comment>
+        <translation>Sortieren nach</translation>
+    </message>
+    <message>
+        <source>Original Order</source>
+        <comment>spec audit menu item</comment>
+        <translation>Ursprüngliche Reihenfolge</translation>
+    </message>
+    <message>
+        <source>%1 entries: %2 referenced — %3 complete — %4 incomplete</source>
+        <comment>spec audit summary</comment>
+        <translation>%1 Einträge: %2 referenziert — %3 vollständig — %4 unvollständig</translation>
+    </message>
+    <message>
+        <source>Open Entry</source>
+        <comment>spec audit menu item</comment>
+        <translation>Eintrag öffnen</translation>
+    </message>
+    <message>
+        <source>Copy Cell</source>
+        <comment>spec audit menu item</comment>
+        <translation>Zelle kopieren</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <comment>spec audit menu item</comment>
+        <translation>Exportieren …</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <comment>spec audit search field</comment>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Spec References</source>
+        <comment>spec audit window title</comment>
+        <translation>Spezifikationsverweise</translation>
+    </message>
+    <message>
+        <source>Loading spec references…</source>
+        <comment>spec audit progress message</comment>
+        <translation>Spezifikationsverweise werden geladen …</translation>
+    </message>
+    <message>
+        <source>The audit failed.</source>
+        <comment>spec audit error</comment>
+        <translation>Die Prüfung ist fehlgeschlagen.</translation>
+    </message>
+    <message>
+        <source>There are no references to audit yet. Refer to the specification in your work, and then open this table again.</source>
+        <comment>spec audit empty table</comment>
+        <translation>Es gibt noch keine Verweise zu prüfen. Verweisen Sie in Ihrer Arbeit auf die Spezifikation, und öffnen Sie diese Tabelle dann erneut.</translation>
+    </message>
+    <message>
+        <source>No reference holds all of these words. Search for fewer words, or press Escape to see all references.</source>
+        <comment>spec audit empty table</comment>
+        <translation>Kein Verweis enthält alle diese Wörter. Suchen Sie nach weniger Wörtern, oder drücken Sie Esc, um alle Verweise zu sehen.</translation>
+    </message>
+    <message>
+        <source>Copy Row</source>
+        <comment>spec audit menu item</comment>
+        <translation>Zeile kopieren</translation>
+    </message>
+    <message>
+        <source>Copy Rows</source>
+        <comment>spec audit menu item</comment>
+        <translation>Zeilen kopieren</translation>
+    </message>
+    <message>
+        <source>Specification:</source>
+        <comment>entry browser label</comment>
+        <translation>Spezifikation:</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <comment>entry browser button</comment>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <comment>entry browser button</comment>
+        <translation>Auswählen</translation>
+    </message>
+    <message>
+        <source>Edit…</source>
+        <comment>token field menu item</comment>
+        <translation>Bearbeiten …</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <comment>token field menu item</comment>
+        <translation>Vorschau</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <comment>token field menu item</comment>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>Select an Entry</source>
+        <comment>entry browser title</comment>
+        <translation>Eintrag auswählen</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <comment>Zoom level</comment>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>Document commands</source>
+        <comment>Accessible name of the tool bar</comment>
+        <translation>Befehle des Dokuments</translation>
+    </message>
+    <message>
+        <source>Sidebar</source>
+        <comment>Tool bar of the detail view</comment>
+        <translation>Seitenleiste</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>Tool tip: a command and its shortcut</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <comment>Tool bar of the detail view</comment>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <comment>Tool bar of the detail view</comment>
+        <translation>Vor</translation>
+    </message>
+    <message>
+        <source>Zoom Out</source>
+        <comment>Tool bar of the detail view</comment>
+        <translation>Verkleinern</translation>
+    </message>
+    <message>
+        <source>Zoom In</source>
+        <comment>Tool bar of the detail view</comment>
+        <translation>Vergrößern</translation>
+    </message>
+    <message>
+        <source>Fit Width</source>
+        <comment>Tool bar of the detail view</comment>
+        <translation>An Breite anpassen</translation>
+    </message>
+    <message>
+        <source>Fit Page</source>
+        <comment>Tool bar of the detail view</comment>
+        <translation>Ganze Seite</translation>
+    </message>
+    <message>
+        <source>Zoom Level</source>
+        <comment>Tool bar of the detail view</comment>
+        <translation>Vergrößerung</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <comment>Tool bar of the detail view</comment>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Inverted Pages</source>
+        <comment>Tool bar of the detail view</comment>
+        <translation>Seiten invertieren</translation>
+    </message>
+    <message>
+        <source>Outline</source>
+        <comment>Tab of the detail view</comment>
+        <translation>Gliederung</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <comment>Tab of the detail view</comment>
+        <translation>Suche</translation>
+    </message>
+    <message>
+        <source>Sidebar</source>
+        <comment>Accessible name of the tabs of the detail view</comment>
+        <translation>Seitenleiste</translation>
+    </message>
+    <message>
+        <source>Page number</source>
+        <comment>Field of the detail view&apos;s tool bar</comment>
+        <translation>Seitenzahl</translation>
+    </message>
+    <message>
+        <source>of %1</source>
+        <comment>Behind the page number: the number of pages</comment>
+        <translation>von %1</translation>
+    </message>
+    <message>
+        <source>Go to page (%1)</source>
+        <comment>Tool tip with a shortcut</comment>
+        <translation>Gehe zu Seite (%1)</translation>
+    </message>
+    <message>
+        <source>Go to Page</source>
+        <comment>Tool bar of the detail view</comment>
+        <translation>Gehe zu Seite</translation>
+    </message>
+    <message>
+        <source>The file of this document was moved or deleted. Pages that have not been read yet may be missing.</source>
+        <comment>Notice of the detail view</comment>
+        <translation>Die Datei dieses Dokuments wurde verschoben oder gelöscht. Noch nicht gelesene Seiten fehlen möglicherweise.</translation>
+    </message>
+    <message>
+        <source>The file of this document was changed by another program. Pages may be wrong or missing until it is imported again.</source>
+        <comment>Notice of the detail view</comment>
+        <translation>Die Datei dieses Dokuments wurde von einem anderen Programm geändert. Bis sie erneut importiert wird, können Seiten falsch sein oder fehlen.</translation>
+    </message>
+    <message>
+        <source>Links of this kind are not opened: %1</source>
+        <comment>Notice of the detail view</comment>
+        <translation>Links dieser Art werden nicht geöffnet: %1</translation>
+    </message>
+    <message>
+        <source>“%1” has no place in this document.</source>
+        <comment>Notice of the detail view</comment>
+        <translation>„%1“ hat keine Stelle in diesem Dokument.</translation>
+    </message>
+    <message>
+        <source>Highlighting spec coverage…</source>
+        <comment>spec detail view progress message</comment>
+        <translation>Abdeckung der Spezifikation wird markiert …</translation>
+    </message>
+    <message>
+        <source>No references were given to highlight in a document.</source>
+        <comment>Sheet of the detail view</comment>
+        <translation>Es wurden keine Verweise angegeben, die in einem Dokument zu markieren wären.</translation>
+    </message>
+    <message>
+        <source>Specification</source>
+        <comment>default PDF detail view title</comment>
+        <translation>Spezifikation</translation>
+    </message>
+    <message>
+        <source>The document of “%1” is not there. Import its PDF file to read it here.</source>
+        <comment>In a detail view without a document</comment>
+        <translation>Das Dokument zu „%1“ ist nicht vorhanden. Importieren Sie die PDF-Datei, um es hier zu lesen.</translation>
+    </message>
+    <message>
+        <source>There is no specification to show.</source>
+        <comment>In a detail view without one</comment>
+        <translation>Es gibt keine Spezifikation, die angezeigt werden könnte.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <comment>Button of a notice</comment>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Notice</source>
+        <comment>Accessible name of the line above a document</comment>
+        <translation>Hinweis</translation>
+    </message>
+    <message>
+        <source>Suggestions</source>
+        <comment>accessible name of a list</comment>
+        <translation>Vorschläge</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <comment>menu item</comment>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <comment>menu item</comment>
+        <translation>Wiederholen</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <comment>menu item</comment>
+        <translation>Ausschneiden</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <comment>menu item</comment>
+        <translation>Einfügen</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <comment>menu item</comment>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>reference</source>
+        <comment>where a search matched</comment>
+        <translation>Verweis</translation>
+    </message>
+    <message>
+        <source>Selected entry: %@</source>
+        <comment>entry browser indicator text</comment>
+        <translation>Ausgewählter Eintrag: %@</translation>
+    </message>
+    <message>
+        <source>No selected entry</source>
+        <comment>entry browser indicator text</comment>
+        <translation>Kein Eintrag ausgewählt</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <comment>menu</comment>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Entry</source>
+        <comment>menu item</comment>
+        <translation>Eintrag &amp;kopieren</translation>
+    </message>
 </context>
 </TS>

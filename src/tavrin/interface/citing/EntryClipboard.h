@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <memory>
+
+#include <Tavrin/WidgetsExport.h>
+
+class QMimeData;
+
+namespace Tavrin
+{
+
+class SpecificationEntry;
+
+/// An entry as other programs paste it: in plain text its kind, number and title above its spec
+/// URL; the URL alone where links are wanted; and the title as a link where text has style. The URL
+/// names the specification, if that has an identifier, and no revision. Main thread.
+class TAVRIN_WIDGETS_EXPORT EntryClipboard
+{
+public:
+    static std::unique_ptr<QMimeData> mimeData(const SpecificationEntry &entry);
+    static void copy(const SpecificationEntry &entry);
+};
+
+} // namespace Tavrin

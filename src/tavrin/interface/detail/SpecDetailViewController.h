@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <memory>
+#include <optional>
+
+#include <Tavrin/interface/toolkit/ViewController.h>
+#include <Tavrin/model/ReferenceCoverage.h>
+#include <Tavrin/model/Specification.h>
+
+namespace Tavrin
+{
+
+class SpecDetailViewController;
+
+/// Hears of the entry that a reader chose. The same choice may be told twice.
+class TAVRIN_WIDGETS_EXPORT SpecDetailViewControllerDelegate
+{
+public:
+    virtual ~SpecDetailViewControllerDelegate();
+    virtual void specDetailViewController(SpecDetailViewController &controller,
+                                          const std::shared_ptr<SpecificationEntry> &selected) = 0;
+};
+
+/// Shows one specification, of whatever kind, with one of its entries current. A host that brings
+/// a kind of specification of its own derives from it. Main thread.
+class TAVRIN_WIDGETS_EXPORT SpecDetailViewController : public ViewController
+{
+    Q_OBJECT
+
+public:
+    using EntryPtr = std::shared_ptr<SpecificationEntry>;
+    using SpecificationPtr = std::shared_ptr<Specification>;
+
+    explicit SpecDetailViewController(QObject *parent = nullptr);
+    ~SpecDetailViewController() override;
+
+    /// The current entry; null if there is none.
+    virtual EntryPtr entry() const = 0;
+    virtual void setEntry(const EntryPtr &entry) = 0;
+    virtual SpecificationPtr specification() const = 0;
+    virtual void setSpecification(const SpecificationPtr &specification) = 0;
+
+    /// Whether the reader may choose an entry in the document. Off at first.
+    virtual bool allowsEntrySelection() const = 0;
+    virtual void setAllowsEntrySelection(bool allowed) = 0;
+
+    /// Not kept alive.
+    virtual std::shared_ptr<SpecDetailViewControllerDelegate> delegate() const = 0;
+    virtual void setDelegate(const std::weak_ptr<SpecDetailViewControllerDelegate> &delegate) = 0;
+
+    /// Makes an entry current and marks it. The delegate is not told.
+    virtual void selectEntry(const EntryPtr &entry) = 0;
+
+    /// Whether the places of referenceCoverage() are marked each time the view appears.
+    virtual bool showsReferenceCoverage() const = 0;
+    virtual void setShowsReferenceCoverage(bool shows) = 0;
+    virtual const std::optional<ReferenceCoverage> &referenceCoverage() const = 0;
+    virtual void setReferenceCoverage(const std::optional<ReferenceCoverage> &coverage) = 0;
+};
+
+} // namespace Tavrin

@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QObject>
+#include <QPointer>
+#include <QTimer>
+#include <QUrl>
+
+#include <deque>
+#include <exception>
+#include <vector>
+
+#include <Tavrin/interface/toolkit/ProgressSheet.h>
+
+namespace Tavrin
+{
+
+/// Imports files into the shared manager, behind a sheet that says so.
+///
+/// A manager is used by one thread, so each file holds up the event loop for as long as it takes.
+/// The sheet is on the screen before the first begins, and events are handled between two. One that
+/// is destroyed imports no more. Main thread.
+class TAVRIN_WIDGETS_EXPORT AuxiliaryFileImport : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// What went wrong with one file, for the user.
+    struct TAVRIN_WIDGETS_EXPORT Failure {
+        Failure(const QUrl &file, const std::exception &error);
+
+        QUrl url;
+        QString description;
+        /// What to do about it; may be empty.
+        QString suggestion;
+    };
+
+    explicit AuxiliaryFileImport(QObject *parent = nullptr);
+    ~AuxiliaryFileImport() override;
+
+    /// Returns at once. Files that come while others are imported are appended to them. Without a
+    /// window there is no sheet.
+    void start(const std::vector<QUrl> &urls, QWidget *window);
+    bool isRunning() const { return m_isRunning; }
+
+    /// Says what went wrong in one sheet, or in the log where there is no window.
+    static void showFailures(QWidget *window, const std::vector<Failure> &failures);
+
+Q_SIGNALS:
+    /// All files were tried, and the sheet is gone.
+    void finished(const std::vector<Tavrin::AuxiliaryFileImport::Failure> &failures);
+
+private:
+    void importNext();
+    void finish();
+    void endSheet();
+
+    std::deque<QUrl> m_waiting;
+    std::vector<Failure> m_failures;
+    QPointer<ProgressSheet> m_sheet;
+    QTimer m_turn;
+    bool m_isRunning = false;
+};
+
+} // namespace Tavrin

@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: Apache-2.0
+#include <Tavrin/interface/lookup/ViewFactory.h>
+
+#include <Tavrin/interface/detail/SpecPDFViewController.h>
+#include <Tavrin/interface/files/AuxiliaryFileBrowserController.h>
+#include <Tavrin/interface/lookup/PromptViewController.h>
+#include <Tavrin/interface/summary/SpecEntrySummaryViewController.h>
+
+#include <utility>
+
+namespace Tavrin
+{
+
+bool ViewFactory::installIfMissing()
+{
+    if (!installed())
+        install(std::make_unique<ViewFactory>());
+    return true;
+}
+
+ViewControllerPtr ViewFactory::summary(const std::shared_ptr<SpecificationEntry> &entry)
+{
+    return std::make_shared<SpecEntrySummaryViewController>(entry);
+}
+
+ViewControllerPtr ViewFactory::pdfDetail(const std::shared_ptr<Specification> &specification,
+                                         const std::shared_ptr<SpecificationEntry> &entry)
+{
+    if (entry)
+        return SpecPDFViewController::make(entry);
+    return SpecPDFViewController::make(specification);
+}
+
+ViewControllerPtr ViewFactory::error(const QString &message, const QString &buttonTitle,
+                                     std::function<void()> pressed)
+{
+    auto prompt = std::make_shared<PromptViewController>(std::move(pressed));
+    prompt->setMessageText(message);
+    prompt->setButtonTitle(buttonTitle);
+    return prompt;
+}
+
+ViewControllerPtr ViewFactory::auxiliaryFileBrowser(const std::optional<QString> &instruction)
+{
+    auto browser = AuxiliaryFileBrowserController::standard();
+    if (instruction)
+        browser->setInstructionText(*instruction);
+    return browser;
+}
+
+bool ViewFactory::showReferenceCoverage(ViewController &detail, const ReferenceCoverage &coverage)
+{
+    auto *shown = qobject_cast<SpecDetailViewController *>(&detail);
+    if (!shown)
+        return false;
+    shown->setReferenceCoverage(coverage);
+    shown->setShowsReferenceCoverage(true);
+    return true;
+}
+
+} // namespace Tavrin

@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QDialog>
+
+#include <functional>
+#include <memory>
+
+#include <Tavrin/WidgetsExport.h>
+
+class QBoxLayout;
+class QLabel;
+class QPushButton;
+
+namespace Tavrin
+{
+
+/// A dialog that belongs to one window and blocks that window alone: a message, what explains it, a
+/// view of the caller's, and buttons.
+///
+/// It is shown by begin(), which returns at once, and deletes itself when it has ended. Main
+/// thread.
+class TAVRIN_WIDGETS_EXPORT Sheet : public QDialog
+{
+    Q_OBJECT
+
+public:
+    /// What a button or the caller ended it with.
+    using Completion = std::function<void(int result)>;
+
+    explicit Sheet(QWidget &window);
+    ~Sheet() override;
+
+    void setMessageText(const QString &text);
+    QString messageText() const;
+    /// Smaller, below the message; texts can be selected, and long ones scroll.
+    void setInformativeText(const QString &text);
+    QString informativeText() const;
+    /// Between the texts and the buttons; takes the room that is left.
+    void setAccessoryView(std::unique_ptr<QWidget> view);
+    /// From the right to the left, as the platform orders them. The first one is the default.
+    QPushButton *addButton(const QString &title, int result);
+
+    /// Whether Escape and the window's frame end it, as rejected. They do, unless it is set.
+    void setEndsOnEscape(bool ends) { m_endsOnEscape = ends; }
+
+    /// Shows it over its window.
+    void begin(Completion completion = {});
+    /// Takes it off the screen, then calls the completion. Once.
+    void end(int result);
+
+    /// The usual case: a message and one button that dismisses it.
+    static Sheet *showMessage(QWidget &window, const QString &message,
+                              const QString &informativeText = {});
+
+    void reject() override;
+
+private:
+    QLabel *m_message;
+    QLabel *m_informative;
+    QBoxLayout *m_contents;
+    QBoxLayout *m_buttons;
+    Completion m_completion;
+    bool m_endsOnEscape = true;
+    bool m_isEnding = false;
+};
+
+} // namespace Tavrin

@@ -1,0 +1,152 @@
+// SPDX-License-Identifier: Apache-2.0
+#include <QApplication>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include <Tavrin/interface/detail/SpecPDFViewController.h>
+#include <Tavrin/interface/files/AuxiliaryFileBrowserController.h>
+#include <Tavrin/interface/summary/SpecEntrySummaryViewController.h>
+#include <Tavrin/interface/summary/SpecErrorViewController.h>
+#include <Tavrin/interface/toolkit/Popover.h>
+
+#include "SharedManagerFixture.h"
+
+using namespace Tavrin;
+using namespace Tavrin::Testing;
+using namespace Qt::StringLiterals;
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::IsNull;
+using testing::NotNull;
+
+namespace
+{
+
+class LookupViews : public SharedManagerFixture
+{
+protected:
+    template <class View>
+    static View *as(const ViewControllerPtr &view)
+    {
+        return qobject_cast<View *>(view.get());
+    }
+    static void pressButton(const ViewControllerPtr &prompt)
+    {
+        QWidget *view = prompt->view();
+        view->show();
+        QTest::mouseClick(view->findChild<QPushButton *>(), Qt::LeftButton);
+    }
+};
+
+} // namespace
+
+TEST_F(LookupViews, ShowASummaryWhoseLinksLeadToTheDetailView)
+{
+    const auto alpha = addSpecification(u"alpha"_s);
+    addSpecification(u"beta"_s);
+    import(u"alpha"_s);
+    import(u"beta"_s);
+    manager.setPrimarySpecification(specification(u"beta"_s));
+    const auto onlyAlpha = [&](const Specification &candidate) {
+        return &candidate == alpha.get();
+    };
+    const auto view = manager.summaryLookup(u"1"_s, onlyAlpha);
+    auto *summary = as<SpecEntrySummaryViewController>(view);
+    ASSERT_THAT(summary, NotNull());
+    EXPECT_EQ(summary->entry(), alpha->entry(u"1"_s));
+
+    QWidget window;
+    window.resize(800, 500);
+    QPushButton button(u"1"_s, &window);
+    window.show();
+    QPointer<Popover> popover = Popover::show(view, button.rect(), button);
+    // The host puts the popover away as soon as a link is followed.
+    QObject::connect(summary, &SpecEntrySummaryViewController::detailViewRequested, popover,
+                     &Popover::close);
+    summary->summaryCellClickedLink(u"1"_s);
+    ASSERT_EQ(details.size(), 1U);
+    auto *detail = as<SpecPDFViewController>(details.front());
+    ASSERT_THAT(detail, NotNull());
+    EXPECT_EQ(detail->specification(), alpha) << "the summary's own, though another is primary";
+    EXPECT_EQ(detail->entry(), alpha->entry(u"1"_s));
+    EXPECT_EQ(manager.currentDetailViewController(), details.front());
+}
+
+TEST_F(LookupViews, ShowNothingForAWrongLabelAndAPromptWithoutDocuments)
+{
+    addSpecification(u"alpha"_s);
+    auto *prompt = as<SpecErrorViewController>(manager.summaryLookup(u"1"_s));
+    EXPECT_THAT(prompt, NotNull());
+    import(u"alpha"_s);
+    LogCapture log("tavrin");
+    const auto view = manager.summaryLookup(u"nonsense"_s);
+    auto *empty = as<SpecEntrySummaryViewController>(view);
+    ASSERT_THAT(empty, NotNull());
+    EXPECT_THAT(empty->entry(), IsNull());
+    EXPECT_EQ(empty->view()->sizeHint().isEmpty(), false);
+    EXPECT_FALSE(empty->noContentView()->isHidden());
+    EXPECT_THAT(log.takeMessages(),
+                ElementsAre(u"Could not find label nonsense in any specification"_s));
+}
+
+TEST_F(LookupViews, LeadFromEachPromptToTheBrowser)
+{
+    manager.setAuxiliaryFileBrowserHelpText(u"Ask the librarian."_s);
+    addSpecification(u"alpha"_s);
+    pressButton(manager.summaryLookup(u"1"_s));
+    manager.showDetailViewController(u"1"_s);
+    pressButton(details.back());
+    manager.showDetailViewController(specification(u"alpha"_s));
+    pressButton(details.back());
+    import(u"alpha"_s);
+    manager.showDetailViewController(u"nonsense"_s);
+    pressButton(details.back());
+    ASSERT_EQ(browsers.size(), 4U);
+    for (const auto &browser : browsers) {
+        ASSERT_THAT(as<AuxiliaryFileBrowserController>(browser), NotNull());
+        browser->view()->show();
+        EXPECT_EQ(browser->view()->findChild<QLabel *>(u"instructionLabel"_s)->text(),
+                  u"Ask the librarian."_s);
+    }
+
+    manager.setAuxiliaryFileBrowserDisplayBlock({});
+    const auto prompt = manager.makeNoSpecsController();
+    prompt->view()->show();
+    EXPECT_TRUE(prompt->view()->findChild<QPushButton *>()->isHidden());
+    EXPECT_EQ(as<SpecErrorViewController>(prompt)->messageText(),
+              u"You have not imported a spec for this reference."_s);
+}
+
+TEST_F(LookupViews, ShowDetailViewsOfEntriesAndSpecifications)
+{
+    const auto alpha = addSpecification(u"alpha"_s);
+    import(u"alpha"_s);
+    manager.showDetailViewController(u"spec://1/alpha/1"_s);
+    manager.showDetailViewController(alpha);
+    ASSERT_EQ(details.size(), 2U);
+    EXPECT_EQ(as<SpecPDFViewController>(details[0])->entry(), alpha->entry(u"1"_s));
+    EXPECT_THAT(as<SpecPDFViewController>(details[1])->entry(), IsNull());
+    EXPECT_EQ(as<SpecPDFViewController>(details[1])->specification(), alpha);
+    EXPECT_EQ(manager.currentDetailViewController(), details[1]);
+    const auto another = manager.detailLookup(alpha->entry(u"1"_s));
+    EXPECT_EQ(as<SpecPDFViewController>(another)->entry(), alpha->entry(u"1"_s));
+    EXPECT_EQ(manager.currentDetailViewController(), details[1]);
+    details.clear();
+    EXPECT_THAT(manager.currentDetailViewController(), IsNull());
+}
+
+TEST_F(LookupViews, MarkCoverageWhenTheyAppear)
+{
+    const auto alpha = addSpecification(u"alpha"_s);
+    manager.showSpecCoverage({{u"1"_s, u"test 7"_s}}, alpha);
+    EXPECT_THAT(details, IsEmpty());
+    import(u"alpha"_s);
+    manager.showSpecCoverage({{u"1"_s, u"test 7"_s}, {u"9"_s, u"test 8"_s}}, alpha);
+    ASSERT_EQ(details.size(), 1U);
+    auto *detail = as<SpecPDFViewController>(details.front());
+    EXPECT_TRUE(detail->showsReferenceCoverage());
+    ASSERT_TRUE(detail->referenceCoverage());
+    EXPECT_EQ(detail->referenceCoverage()->back().reference, u"test 8"_s);
+    EXPECT_THAT(detail->entry(), IsNull());
+}
