@@ -1,0 +1,113 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include <Tavrin/interface/citing/SpecEntrySelectionViewControllerDelegate.h>
+#include <Tavrin/interface/detail/SpecDetailViewController.h>
+#include <Tavrin/platform/NotificationCenter.h>
+
+namespace Tavrin
+{
+
+/// Lets the user choose an entry in the detail view of a specification.
+///
+/// Shows the detail view of the given entry's specification, else of the primary one, with a list
+/// to change to another. Where a document is missing it shows the prompt to import, and changes by
+/// itself when the file arrives. In a Sheet it ends the sheet. Held by std::shared_ptr; main
+/// thread.
+class TAVRIN_WIDGETS_EXPORT SpecEntrySelectionViewController
+    : public ViewController,
+      public SpecDetailViewControllerDelegate
+{
+    Q_OBJECT
+    Q_PROPERTY(bool controlsHidden READ controlsHidden NOTIFY changed)
+    Q_PROPERTY(bool selectButtonEnabled READ selectButtonEnabled NOTIFY changed)
+
+public:
+    using EntryPtr = std::shared_ptr<SpecificationEntry>;
+    using SpecificationPtr = std::shared_ptr<Specification>;
+
+    /// What it ends with.
+    enum Result { Cancelled = 0, Selected = 1 };
+
+    explicit SpecEntrySelectionViewController(const EntryPtr &selectedEntry = nullptr);
+    ~SpecEntrySelectionViewController() override;
+
+    /// Null for none.
+    const EntryPtr &selectedEntry() const { return m_selectedEntry; }
+    void setSelectedEntry(const EntryPtr &entry);
+    /// Those that have all their files, in the order of the manager; empty before the view is
+    /// loaded.
+    const std::vector<SpecificationPtr> &availableSpecifications() const
+    {
+        return m_availableSpecifications;
+    }
+    /// The one that is shown, or whose document is missing; null for none.
+    const SpecificationPtr &selectedSpecification() const { return m_selectedSpecification; }
+    /// Shows it. The selected entry stays if it is one of its own.
+    void setSelectedSpecification(const SpecificationPtr &specification);
+    /// Null while there is the prompt, or nothing.
+    const std::shared_ptr<SpecDetailViewController> &currentDetailController() const
+    {
+        return m_currentDetailController;
+    }
+
+    /// Not kept alive.
+    std::shared_ptr<SpecEntrySelectionViewControllerDelegate> delegate() const
+    {
+        return m_delegate.lock();
+    }
+    void setDelegate(const std::weak_ptr<SpecEntrySelectionViewControllerDelegate> &delegate)
+    {
+        m_delegate = delegate;
+    }
+
+    /// Whether there is nothing to choose from, so that there are no buttons.
+    bool controlsHidden() const { return m_controlsHidden; }
+    bool selectButtonEnabled() const { return m_selectedEntry && m_currentDetailController; }
+    /// "Selected entry: Section 4.2.1 Scope", in the user's language.
+    QString selectedEntryText() const;
+
+    void selectButtonClicked() { end(Selected); }
+    void cancelButtonClicked() { end(Cancelled); }
+
+    void specDetailViewController(SpecDetailViewController &controller,
+                                  const EntryPtr &selected) override;
+
+Q_SIGNALS:
+    /// What the view shows has changed.
+    void changed();
+
+protected:
+    std::unique_ptr<QWidget> loadView() override;
+    void viewDidLoad() override;
+    void viewDidAppear() override;
+
+private:
+    void loadDetail();
+    void showSpecification(const SpecificationPtr &specification, const EntryPtr &entry);
+    std::shared_ptr<SpecDetailViewController>
+    makeDetail(const SpecificationPtr &specification) const;
+    void removeShown();
+    void specAuxiliaryFilesChanged();
+    void refreshAvailableSpecifications();
+    void end(int result);
+    void tellDelegate(int result);
+
+    EntryPtr m_selectedEntry;
+    std::vector<SpecificationPtr> m_availableSpecifications;
+    SpecificationPtr m_selectedSpecification;
+    std::shared_ptr<SpecDetailViewController> m_currentDetailController;
+    /// That one, or the prompt.
+    ViewControllerPtr m_shown;
+    std::weak_ptr<SpecEntrySelectionViewControllerDelegate> m_delegate;
+    QPointer<QWidget> m_containerView;
+    QPointer<QWidget> m_sheet;
+    bool m_controlsHidden = false;
+    bool m_hasEnded = false;
+    NotificationCenter::TokenPtr m_filesChanged;
+};
+
+} // namespace Tavrin

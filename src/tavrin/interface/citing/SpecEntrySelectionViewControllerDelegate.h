@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <Tavrin/WidgetsExport.h>
+
+namespace Tavrin
+{
+
+class SpecEntrySelectionViewController;
+
+/// Hears how choosing an entry ended, before the sheet goes.
+class TAVRIN_WIDGETS_EXPORT SpecEntrySelectionViewControllerDelegate
+{
+public:
+    virtual ~SpecEntrySelectionViewControllerDelegate();
+    /// 1 for the entry that the controller has selected, 0 for none.
+    virtual void specEntrySelectionViewController(SpecEntrySelectionViewController &controller,
+                                                  int endedWithResult) = 0;
+};
+
+} // namespace Tavrin
