@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QWidget>
+
+#include <Tavrin/interface/toolkit/ViewController.h>
+
+namespace Tavrin::Reader
+{
+
+/// A window of its own for the view of a controller, which it keeps. It is called as the
+/// controller is, and remembers its place under a name. Deletes itself when closed.
+class ControllerWindow : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// Shows one that goes with another window. If one of that name is open there, it comes to the
+    /// front and shows this controller instead.
+    static ControllerWindow *show(const ViewControllerPtr &controller, const QString &name,
+                                  QWidget &owner);
+
+    const ViewControllerPtr &controller() const { return m_controller; }
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+
+private:
+    ControllerWindow(const QString &name, QWidget &owner);
+    void setController(const ViewControllerPtr &controller);
+    QString geometryKey() const;
+
+    ViewControllerPtr m_controller;
+};
+
+} // namespace Tavrin::Reader

@@ -1,0 +1,135 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QListView>
+#include <QSettings>
+#include <QTest>
+
+#include <gmock/gmock.h>
+
+#include <Tavrin/interface/detail/SpecDetailViewController.h>
+#include <Tavrin/interface/summary/SpecEntrySummaryViewController.h>
+#include <Tavrin/interface/toolkit/Sheet.h>
+#include <reader/ControllerPane.h>
+#include <reader/LookupField.h>
+#include <reader/ReaderWindow.h>
+#include <support/MapBuilder.h>
+#include <support/PDFBuilder.h>
+
+namespace Tavrin::Testing
+{
+
+/// Nothing is remembered of a former run.
+struct FirstRun {
+    FirstRun()
+    {
+        QSettings().clear();
+        SpecificationManager::shared().setSpecifications({});
+        SpecificationManager::shared().setAuxiliaryFiles({});
+    }
+};
+
+/// A reader with the map of a small document, which lies ready and is not bound.
+class ReaderFixture : public testing::Test, private FirstRun
+{
+public:
+    ~ReaderFixture() override
+    {
+        manager.setSpecifications({});
+        manager.setAuxiliaryFiles({});
+    }
+
+protected:
+    ReaderFixture()
+    {
+        MapBuilder map(QStringLiteral("manual"), QStringLiteral("1"));
+        map.title(QStringLiteral("The Manual"))
+            .file(QStringLiteral("pdf"), QStringLiteral("Manual"), QStringLiteral("0,0,612,792"));
+        PDFBuilder pdf;
+        pdf.addPage().text(72, 700, QStringLiteral("Manual"));
+        const QStringList titles{QStringLiteral("Scope"), QStringLiteral("Limits of Use"),
+                                 QStringLiteral("Further Limits")};
+        for (int i = 0; i < titles.size(); ++i) {
+            const QString number = QString::number(i + 1);
+            const QString place = QStringLiteral("section%1").arg(i);
+            auto &page = pdf.addPage();
+            page.text(72, 700, number + u' ' + titles[i], {.size = 18})
+                .text(72, 660, QStringLiteral("What is written here is about %1.").arg(titles[i]));
+            if (i == 0) {
+                page.fill({{100, 400}, {300, 100}}, qRgb(200, 40, 40))
+                    .text(200, 380, QStringLiteral("Figure 1: Red"));
+            }
+            pdf.namedDestination(place.toLatin1(), Dest::xyz(i + 1, 72, 718));
+            map.entry({.label = number,
+                       .index = number,
+                       .name = titles[i],
+                       .keywords = {QStringLiteral("word%1").arg(i)},
+                       .internal = place});
+        }
+        // Its place is at its caption, and the outline has the section above it at most.
+        pdf.namedDestination("figure", Dest::xyz(1, 72, 392));
+        map.entry({.label = QStringLiteral("Figure 1"),
+                   .type = QStringLiteral("figure"),
+                   .index = QStringLiteral("1"),
+                   .name = QStringLiteral("Red"),
+                   .internal = QStringLiteral("figure")});
+        pdf.outline({{.title = QStringLiteral("1 Scope"), .dest = Dest::xyz(1, 72, 718)},
+                     {.title = QStringLiteral("2 Limits"), .dest = Dest::xyz(2, 72, 718)}});
+        map.write(files, QStringLiteral("maps/manual.xml"));
+        files.write(QStringLiteral("maps/manual.dtd"), MapBuilder::grammar());
+        document = files.write(QStringLiteral("manual.pdf"), pdf.build());
+        window.resize(1000, 600);
+        window.show();
+        window.activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+    }
+
+    void openMaps() { window.openMaps({files.path(QStringLiteral("maps"))}); }
+    void openAll()
+    {
+        openMaps();
+        window.bindFiles({document.toLocalFile()});
+    }
+    void type(const QString &text)
+    {
+        window.lookupField().setFocus();
+        window.lookupField().clear();
+        QTest::keyClicks(&window.lookupField(), text);
+    }
+    std::shared_ptr<SpecDetailViewController> detail() const
+    {
+        return std::dynamic_pointer_cast<SpecDetailViewController>(
+            window.detailPane().controller());
+    }
+    QString detailLabel() const
+    {
+        return detail() && detail()->entry() ? detail()->entry()->label() : QString();
+    }
+    QString summaryLabel() const
+    {
+        const auto summary = std::dynamic_pointer_cast<SpecEntrySummaryViewController>(
+            window.summaryPane().controller());
+        return summary && summary->entry() ? summary->entry()->label() : QString();
+    }
+    QStringList recentPlaces() const
+    {
+        QStringList places;
+        const auto *list = window.findChild<QListView *>(QStringLiteral("recentPlaces"));
+        for (int row = 0; row < list->model()->rowCount(); ++row)
+            places += list->model()->index(row, 0).data().toString();
+        return places;
+    }
+    /// What the sheet over the window says.
+    QString complaint() const
+    {
+        const auto *sheet = window.findChild<Sheet *>();
+        return sheet ? sheet->informativeText() : QString();
+    }
+
+    TemporaryFiles files;
+    QUrl document;
+    SpecificationManager &manager = SpecificationManager::shared();
+    Reader::ReaderWindow window{manager};
+};
+
+} // namespace Tavrin::Testing
