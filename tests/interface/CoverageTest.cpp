@@ -110,7 +110,7 @@ protected:
 TEST_F(CoverageTest, EntriesAreMarkedWhenTheViewAppearsUnderASheet)
 {
     cover({u"1"_s, u"2"_s, u"9"_s, u"nothing"_s, u"Figure 1"_s});
-    const InterfaceLogCapture log;
+    LogCapture log("tavrin.interface");
     auto gate = std::make_unique<PoolGate>();
     show();
     ASSERT_TRUE(waitForSheet());
@@ -126,7 +126,7 @@ TEST_F(CoverageTest, EntriesAreMarkedWhenTheViewAppearsUnderASheet)
     EXPECT_EQ(coverage()->at(1).size(), 2U);
     EXPECT_EQ(coverage()->at(2).size(), 2U);
     EXPECT_EQ(view().coverageHighlights, coverage());
-    EXPECT_THAT(InterfaceLogCapture::takeLines(),
+    EXPECT_THAT(log.takeMessages(),
                 ElementsAre(u"Couldn't find entry geometry for 9 in Spec"_s,
                             u"Couldn't find entry geometry for nothing in Spec"_s));
 }

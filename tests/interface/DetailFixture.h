@@ -18,41 +18,10 @@
 #include <Tavrin/interface/toolkit/ProgressSheet.h>
 #include <Tavrin/platform/BackgroundPool.h>
 #include <pdfspec/ReadingFixture.h>
+#include <support/LogCapture.h>
 
 namespace Tavrin::Testing
 {
-
-/// Gathers what views log while it lives, from any thread.
-class InterfaceLogCapture
-{
-public:
-    InterfaceLogCapture()
-    {
-        takeLines();
-        m_before = qInstallMessageHandler(&InterfaceLogCapture::receive);
-    }
-    ~InterfaceLogCapture() { qInstallMessageHandler(m_before); }
-    InterfaceLogCapture(const InterfaceLogCapture &) = delete;
-    InterfaceLogCapture &operator=(const InterfaceLogCapture &) = delete;
-
-    static QStringList takeLines()
-    {
-        const std::lock_guard lock(s_mutex);
-        return std::exchange(s_lines, {});
-    }
-
-private:
-    static void receive(QtMsgType, const QMessageLogContext &context, const QString &line)
-    {
-        const std::lock_guard lock(s_mutex);
-        if (QByteArrayView(context.category) == "tavrin.interface")
-            s_lines += line;
-    }
-
-    static inline std::mutex s_mutex;
-    static inline QStringList s_lines;
-    QtMessageHandler m_before;
-};
 
 /// Notes what the detail view tells its lists.
 class NotedList : public ViewController, public SpecPDFSourceList

@@ -15,6 +15,8 @@
 #include <Tavrin/platform/BackgroundPool.h>
 
 #include "ListeningDelegate.h"
+#include <support/LogCapture.h>
+
 #include "SummaryFixture.h"
 
 using namespace Tavrin;
@@ -27,33 +29,6 @@ namespace
 {
 
 using Controller = SpecPDFSearchViewController;
-
-/// Gathers the lines of the log, from any thread.
-class LogCapture
-{
-public:
-    LogCapture()
-    {
-        const std::lock_guard lock(s_mutex);
-        s_lines.clear();
-        m_before =
-            qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &line) {
-                const std::lock_guard guard(s_mutex);
-                s_lines += line;
-            });
-    }
-    ~LogCapture() { qInstallMessageHandler(m_before); }
-    static QStringList lines()
-    {
-        const std::lock_guard lock(s_mutex);
-        return s_lines;
-    }
-
-private:
-    static inline std::mutex s_mutex;
-    static inline QStringList s_lines;
-    QtMessageHandler m_before = nullptr;
-};
 
 class SearchSidebarTest : public SummaryFixture
 {
@@ -299,7 +274,7 @@ TEST_F(SearchSidebarTest, WorksForNoHiddenList)
 
 TEST_F(SearchSidebarTest, MayGoWhileItWorks)
 {
-    const LogCapture log;
+    const LogCapture log("tavrin");
     addEntries(200);
     show();
     // A drain, and searches in a row.
@@ -319,11 +294,11 @@ TEST_F(SearchSidebarTest, LogsWhereThereIsNothingToSearchIn)
     show();
     type(u"red"_s);
     controller->setSpecification(nullptr);
-    const LogCapture log;
+    const LogCapture log("tavrin");
     QTest::keyClicks(&field(), u"x"_s);
-    EXPECT_TRUE(QTest::qWaitFor([&log] { return !log.lines().isEmpty(); }));
+    EXPECT_TRUE(QTest::qWaitFor([&log] { return !log.messages().isEmpty(); }));
     QTest::qWait(20);
-    EXPECT_EQ(log.lines(), QStringList(u"Couldn't get search results - specification is nil"_s));
+    EXPECT_EQ(log.messages(), QStringList(u"Couldn't get search results - specification is nil"_s));
     EXPECT_EQ(titles(), QStringList(u"Red"_s)) << "what is shown stays";
 }
 

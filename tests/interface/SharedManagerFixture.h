@@ -12,7 +12,7 @@
 #include <Tavrin/interface/toolkit/ViewController.h>
 #include <Tavrin/manager/SpecificationManager.h>
 #include <Tavrin/platform/HostApplication.h>
-#include <manager/LogCapture.h>
+#include <support/LogCapture.h>
 #include <support/SampleDocument.h>
 #include <support/TemporaryFiles.h>
 

@@ -139,12 +139,12 @@ TEST_F(SpecPDFViewControllerTest, SelectingIsRefusedWhereItIsSwitchedOff)
 {
     controller->setEntry(scope);
     show();
-    const InterfaceLogCapture log;
+    LogCapture log("tavrin.interface");
     controller->selectEntry(red);
     EXPECT_EQ(controller->entry(), scope);
     EXPECT_EQ(list->entry(), scope);
     EXPECT_FALSE(controller->shouldHighlightOnLoad());
-    EXPECT_THAT(InterfaceLogCapture::takeLines(),
+    EXPECT_THAT(log.takeMessages(),
                 ElementsAre(u"Tried to select an entry in a PDF detail view when entry selection "
                             "is disabled - set allowsEntrySelection to true"_s));
 }
@@ -250,7 +250,7 @@ TEST_F(SpecPDFViewControllerTest, TheLandingPlaceLightsUpForAMoment)
 
 TEST_F(SpecPDFViewControllerTest, TheNumberOfChildrenIsChecked)
 {
-    const InterfaceLogCapture log;
+    LogCapture log("tavrin.interface");
     const auto lonely = std::make_shared<SpecPDFViewController>();
     lonely->addChildViewController(list);
     lonely->setEntry(scope);
@@ -258,7 +258,7 @@ TEST_F(SpecPDFViewControllerTest, TheNumberOfChildrenIsChecked)
     EXPECT_FALSE(lonely->viewer());
     EXPECT_FALSE(lonely->sidebar());
     EXPECT_EQ(lonely->title(), u"A Specification"_s);
-    EXPECT_THAT(InterfaceLogCapture::takeLines(),
+    EXPECT_THAT(log.takeMessages(),
                 ElementsAre(u"Wrong number of child view controllers of "
                             "Tavrin::SpecPDFViewController: [Tavrin::ViewController]"_s));
 }

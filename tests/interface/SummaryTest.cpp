@@ -6,6 +6,7 @@
 #include <Tavrin/interface/summary/DisplayComputation.h>
 #include <Tavrin/manager/SpecificationManager.h>
 #include <support/Corpus.h>
+#include <support/LogCapture.h>
 
 #include "SummaryFixture.h"
 
@@ -18,27 +19,6 @@ namespace
 {
 
 using Controller = SpecEntrySummaryViewController;
-
-/// Gathers the lines of the log.
-class LogCapture
-{
-public:
-    LogCapture()
-    {
-        lines().clear();
-        m_before = qInstallMessageHandler(
-            [](QtMsgType, const QMessageLogContext &, const QString &line) { lines() += line; });
-    }
-    ~LogCapture() { qInstallMessageHandler(m_before); }
-    static QStringList &lines()
-    {
-        static QStringList gathered;
-        return gathered;
-    }
-
-private:
-    QtMessageHandler m_before;
-};
 
 class URLOpener : public QObject
 {
@@ -270,21 +250,19 @@ TEST_F(Summary, OpensOrRefusesOtherDestinations)
     Controller controller(scope);
     QSignalSpy followed(&controller, &Controller::detailViewRequested);
     URLOpener opener;
-    LogCapture log;
+    const LogCapture log("tavrin");
     controller.summaryCellClickedLink(u"host:some/place"_s);
     EXPECT_THAT(opener.opened, ElementsAre(u"host:some/place"_s));
     controller.summaryCellClickedLink(u"no such label"_s);
     controller.summaryCellClickedLink(u"spec://9.9.9"_s);
     controller.summaryCellClickedLink(u"spec://1.1/*/*?lines=5-2"_s);
     EXPECT_EQ(followed.count(), 0);
-    EXPECT_EQ(LogCapture::lines().value(0),
-              u"Don't know what to do with destination 'no such label'"_s);
-    EXPECT_EQ(LogCapture::lines().value(1),
-              u"Don't know what to do with destination 'spec://9.9.9'"_s)
+    EXPECT_EQ(log.messages().value(0), u"Don't know what to do with destination 'no such label'"_s);
+    EXPECT_EQ(log.messages().value(1), u"Don't know what to do with destination 'spec://9.9.9'"_s)
         << "a URL class would make an address of it";
     SpecEntrySummaryCell alone;
     EXPECT_FALSE(alone.textViewClickedLink(*alone.textView(), 7));
-    EXPECT_TRUE(LogCapture::lines().last().startsWith(u"Destination isn't a string:"_s));
+    EXPECT_TRUE(log.messages().last().startsWith(u"Destination isn't a string:"_s));
 
     auto other = Specification::make<Specification>();
     other->add(std::make_shared<SpecificationEntry>(
@@ -300,10 +278,10 @@ TEST_F(Summary, TellsOfColumnsItDoesNotKnow)
     Controller controller(scope);
     controller.view();
     EXPECT_EQ(controller.tableViewCell(nullptr, 0), nullptr);
-    LogCapture log;
+    const LogCapture log("tavrin");
     const TableView::Column strange{u"Strange"_s};
     EXPECT_EQ(controller.tableViewCell(&strange, 3), nullptr);
-    EXPECT_THAT(LogCapture::lines(),
+    EXPECT_THAT(log.messages(),
                 ElementsAre(u"Unrecognized column identifier: Strange"_s,
                             u"Table view didn't make a valid view for table column Strange and "
                             "row 3"_s));

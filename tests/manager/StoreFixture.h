@@ -15,7 +15,7 @@
 #include <support/StandardErrorCapture.h>
 #include <support/TemporaryFiles.h>
 
-#include "LogCapture.h"
+#include <support/LogCapture.h>
 
 namespace Tavrin::Testing
 {

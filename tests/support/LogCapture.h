@@ -4,10 +4,12 @@
 #include <QByteArray>
 #include <QStringList>
 
+#include <mutex>
+
 namespace Tavrin::Testing
 {
 
-/// Gathers what is logged while it lives. One at a time, on one thread.
+/// Gathers what is logged while it lives, on any thread. One at a time.
 class LogCapture
 {
 public:
@@ -17,6 +19,7 @@ public:
     LogCapture(const LogCapture &) = delete;
     LogCapture &operator=(const LogCapture &) = delete;
 
+    QStringList messages() const;
     /// The messages since the last call.
     QStringList takeMessages();
 
@@ -26,6 +29,7 @@ private:
     static LogCapture *s_current;
     QByteArray m_categories;
     QtMessageHandler m_previous;
+    mutable std::mutex m_mutex;
     QStringList m_messages;
 };
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "LogCapture.h"
+#include <support/LogCapture.h>
 
 #include <utility>
 
@@ -20,15 +20,24 @@ LogCapture::~LogCapture()
     s_current = nullptr;
 }
 
+QStringList LogCapture::messages() const
+{
+    const std::lock_guard lock(m_mutex);
+    return m_messages;
+}
+
 QStringList LogCapture::takeMessages()
 {
+    const std::lock_guard lock(m_mutex);
     return std::exchange(m_messages, {});
 }
 
 void LogCapture::receive(QtMsgType /*type*/, const QMessageLogContext &context, const QString &text)
 {
-    if (QByteArrayView(context.category).startsWith(s_current->m_categories))
-        s_current->m_messages.append(text);
+    if (!QByteArrayView(context.category).startsWith(s_current->m_categories))
+        return;
+    const std::lock_guard lock(s_current->m_mutex);
+    s_current->m_messages.append(text);
 }
 
 } // namespace Tavrin::Testing
