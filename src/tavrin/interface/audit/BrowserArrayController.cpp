@@ -54,7 +54,7 @@ void BrowserArrayController::setContent(std::vector<BrowserTable::Column> column
     beginResetModel();
     m_columns = std::move(columns);
     m_content = std::move(items);
-    match(m_words, false);
+    findMatches(m_words, false);
     order();
     arrange();
     endResetModel();
@@ -66,7 +66,7 @@ void BrowserArrayController::setFilterWords(const QString &text)
     if (words == m_words)
         return;
     beginResetModel();
-    match(words, imply(words, m_words));
+    findMatches(words, imply(words, m_words));
     arrange();
     endResetModel();
 }
@@ -83,7 +83,7 @@ void BrowserArrayController::sort(int column, Qt::SortOrder sortOrder)
     endResetModel();
 }
 
-void BrowserArrayController::match(const QStringList &words, bool narrows)
+void BrowserArrayController::findMatches(const QStringList &words, bool narrows)
 {
     m_words = words;
     const std::vector<QStringMatcher> matchers(words.begin(), words.end());

@@ -48,7 +48,7 @@ public:
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 private:
-    void match(const QStringList &words, bool narrows);
+    void findMatches(const QStringList &words, bool narrows);
     void order();
     void arrange();
 
