@@ -4,6 +4,8 @@
 
 #include <Tavrin/manager/SpecificationManager.h>
 #include <Tavrin/platform/BackgroundPool.h>
+#include <Tavrin/platform/PoolTask.h>
+#include <support/FinishTasks.h>
 
 #include "AuditFixture.h"
 
@@ -81,14 +83,14 @@ TEST_F(Auditor, WorksOnAnotherThread)
     SpecificationManager::shared().setSpecifications({});
     std::vector<PDFSpecAuditor::Row> rows;
     AuditReport report;
-    QThreadPool::globalInstance()->start([&] {
+    startTask(backgroundPool(), [&] {
         rows = detached.auditCSVComponents(labels);
         report = detached.report(references(labels));
     });
     // As readers do meanwhile.
     for (int i = 0; i < 200; ++i)
         EXPECT_TRUE(specification->entry(u"spec://1.1/engine/7/%1/%2"_s.arg(i % 5).arg(i % 5 + 1)));
-    QThreadPool::globalInstance()->waitForDone();
+    finishTasks(backgroundPool());
     EXPECT_EQ(rows, expected);
     EXPECT_EQ(report.unknown.size(), 1U);
     EXPECT_EQ(report.citations.front().related.size(), 1U);
@@ -175,7 +177,7 @@ TEST_F(Auditor, TrapsWhenThereIsNotEnoughToReport)
     EXPECT_DEATH(
         {
             auditor().writeAuditRTF(labels, files.url(u"audit.rtf"_s), {});
-            backgroundPool().waitForDone();
+            finishTasks(backgroundPool());
         },
         "needs 120 entries");
 }

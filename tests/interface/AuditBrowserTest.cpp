@@ -22,10 +22,11 @@
 #include <Tavrin/interface/audit/SpecBrowserTextTransformer.h>
 #include <Tavrin/interface/detail/SpecPDFViewController.h>
 #include <Tavrin/interface/summary/SpecErrorViewController.h>
-#include <Tavrin/interface/toolkit/BackgroundWork.h>
 #include <Tavrin/interface/toolkit/ProgressSheet.h>
+#include <Tavrin/platform/BackgroundPool.h>
 #include <audit/AuditFixture.h>
 #include <support/Corpus.h>
+#include <support/FinishTasks.h>
 
 #include "SharedManagerFixture.h"
 #include "SummaryFixture.h"
@@ -48,7 +49,7 @@ protected:
     ~AuditBrowser() override
     {
         controller.reset();
-        BackgroundWork::waitForDone();
+        finishTasks(backgroundPool());
         QCoreApplication::sendPostedEvents();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         manager.setDetailViewControllerDisplayBlock({});
@@ -598,7 +599,7 @@ TEST_F(AuditBrowser, MayGoWhileItAudits)
     controller.reset();
     EXPECT_EQ(sheet(), nullptr) << "the window can be used again";
     gate.open();
-    BackgroundWork::waitForDone();
+    finishTasks(backgroundPool());
     QCoreApplication::processEvents();
     const auto unread = std::dynamic_pointer_cast<Entry>(specification->entry(u"1.2"_s));
     EXPECT_TRUE(unread->needsComputeDisplay()) << "the audit was given up";

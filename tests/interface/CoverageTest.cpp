@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 // Marks of what references cover: how they merge, and how they come onto the pages.
 #include <Tavrin/interface/detail/CoverageMarks.h>
+#include <Tavrin/platform/PoolTask.h>
+#include <support/FinishTasks.h>
 
 #include <condition_variable>
 
@@ -62,7 +64,7 @@ public:
     PoolGate()
     {
         for (int i = 0; i < backgroundPool().maxThreadCount(); ++i) {
-            backgroundPool().start([this] {
+            startTask(backgroundPool(), [this] {
                 std::unique_lock lock(m_mutex);
                 m_changed.wait(lock, [this] { return m_isOpen; });
             });
@@ -71,7 +73,7 @@ public:
     ~PoolGate()
     {
         open();
-        backgroundPool().waitForDone();
+        finishTasks(backgroundPool());
     }
     void open()
     {

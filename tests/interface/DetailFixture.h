@@ -4,7 +4,6 @@
 #include <QSettings>
 #include <QSignalSpy>
 #include <QTest>
-#include <QThreadPool>
 #include <QVBoxLayout>
 
 #include <mutex>
@@ -18,6 +17,7 @@
 #include <Tavrin/interface/toolkit/ProgressSheet.h>
 #include <Tavrin/platform/BackgroundPool.h>
 #include <pdfspec/ReadingFixture.h>
+#include <support/FinishTasks.h>
 #include <support/LogCapture.h>
 
 namespace Tavrin::Testing
@@ -120,7 +120,7 @@ protected:
     void TearDown() override
     {
         controller.reset();
-        backgroundPool().waitForDone();
+        finishTasks(backgroundPool());
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
 

@@ -15,6 +15,7 @@
 #include <Tavrin/platform/BackgroundPool.h>
 
 #include "ListeningDelegate.h"
+#include <support/FinishTasks.h>
 #include <support/LogCapture.h>
 
 #include "SummaryFixture.h"
@@ -53,7 +54,7 @@ protected:
     {
         controller.reset();
         // It stores its text.
-        serialBackground().waitForDone();
+        finishTasks(serialBackground());
         SummaryFixture::TearDown();
     }
 
@@ -236,7 +237,7 @@ TEST_F(SearchSidebarTest, ComputesOnlyWhatCanBeSeenAndEachOnce)
     const auto before = computed();
     list().scrollToBottom();
     EXPECT_TRUE(QTest::qWaitFor([&] { return computed() > before; }));
-    backgroundPool().waitForDone();
+    finishTasks(backgroundPool());
     EXPECT_TRUE(std::all_of(counts.begin(), counts.end(), [](const auto &n) { return *n <= 1; }));
 }
 
@@ -285,7 +286,7 @@ TEST_F(SearchSidebarTest, MayGoWhileItWorks)
     specification->add(section(u"late"_s, u"Late"_s, 3, 700));
     controller.reset();
     gate.open();
-    backgroundPool().waitForDone();
+    finishTasks(backgroundPool());
     QTest::qWait(20);
 }
 

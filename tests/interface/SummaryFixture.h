@@ -5,7 +5,6 @@
 #include <QSignalSpy>
 #include <QTest>
 #include <QTextBlock>
-#include <QThreadPool>
 
 #include <condition_variable>
 #include <mutex>
@@ -18,6 +17,7 @@
 #include <Tavrin/model/EntryDirectory.h>
 #include <Tavrin/platform/BackgroundPool.h>
 #include <pdfspec/ReadingFixture.h>
+#include <support/FinishTasks.h>
 
 namespace Tavrin::Testing
 {
@@ -48,7 +48,7 @@ protected:
     void TearDown() override
     {
         EntryDirectory::setLookup({});
-        backgroundPool().waitForDone();
+        finishTasks(backgroundPool());
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
 

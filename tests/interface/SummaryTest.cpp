@@ -6,6 +6,7 @@
 #include <Tavrin/interface/summary/DisplayComputation.h>
 #include <Tavrin/manager/SpecificationManager.h>
 #include <support/Corpus.h>
+#include <support/FinishTasks.h>
 #include <support/LogCapture.h>
 
 #include "SummaryFixture.h"
@@ -320,7 +321,7 @@ TEST_F(Summary, SurvivesWhatGoesWhileItLoads)
         gate.waitUntilReached();
         controller.reset();
         gate.open();
-        backgroundPool().waitForDone();
+        finishTasks(backgroundPool());
         QCoreApplication::processEvents();
     }
     Gate gate(*red);

@@ -27,9 +27,10 @@ private:
     static void receive(QtMsgType type, const QMessageLogContext &context, const QString &text);
 
     static LogCapture *s_current;
+    /// Of the current one, and of what it has gathered.
+    static std::mutex s_mutex;
     QByteArray m_categories;
-    QtMessageHandler m_previous;
-    mutable std::mutex m_mutex;
+    QtMessageHandler m_previous = nullptr;
     QStringList m_messages;
 };
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <Tavrin/audit/PDFSpecAuditor.h>
 
-#include <QCoreApplication>
 #include <QSaveFile>
 #include <QThreadPool>
 
@@ -17,6 +16,8 @@
 #include <Tavrin/model/SpecURL.h>
 #include <Tavrin/pdfspec/PDFSpecificationEntry.h>
 #include <Tavrin/platform/BackgroundPool.h>
+#include <Tavrin/platform/PoolTask.h>
+#include <Tavrin/platform/PostedTask.h>
 #include <Tavrin/platform/RTFWriter.h>
 #include <Tavrin/platform/StandardError.h>
 #include <Tavrin/platform/StandardOutput.h>
@@ -84,7 +85,7 @@ void writeFile(const QUrl &url, Writing write)
 void runInBackground(const std::function<void()> &work,
                      const PDFSpecAuditor::Completion &completion)
 {
-    backgroundPool().start([work, completion] {
+    startTask(backgroundPool(), [work, completion] {
         bool success = true;
         try {
             work();
@@ -92,11 +93,8 @@ void runInBackground(const std::function<void()> &work,
             success = false;
             standardError(u"Error writing audit: "_s + QString::fromUtf8(error.what()));
         }
-        if (completion) {
-            QMetaObject::invokeMethod(
-                QCoreApplication::instance(), [completion, success] { completion(success); },
-                Qt::QueuedConnection);
-        }
+        if (completion)
+            postTask([completion, success] { completion(success); });
     });
 }
 

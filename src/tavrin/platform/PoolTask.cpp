@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <Tavrin/platform/PoolTask.h>
 
+#include <Tavrin/platform/ThreadHandOver.h>
+
 #include <QThreadPool>
 
 #include <memory>
-#include <mutex>
+#include <utility>
 
 namespace Tavrin
 {
@@ -12,31 +14,24 @@ namespace Tavrin
 namespace
 {
 
-struct PoolTask {
-    std::mutex mutex;
-    std::function<void()> work;
-};
+using Task = std::function<void()>;
 
-void run(PoolTask *task)
+void run(Task *handed)
 {
-    std::function<void()> work;
-    {
-        const std::lock_guard lock(task->mutex);
-        work.swap(task->work);
-    }
-    delete task;
-    work();
+    handOver();
+    std::unique_ptr<Task> task(handed);
+    (*task)();
+    // What it holds goes before it counts as done.
+    task.reset();
+    handOver();
 }
 
 } // namespace
 
 void startTask(QThreadPool &pool, std::function<void()> task)
 {
-    auto owned = std::make_unique<PoolTask>();
-    {
-        const std::lock_guard lock(owned->mutex);
-        owned->work.swap(task);
-    }
+    auto owned = std::make_unique<Task>(std::move(task));
+    handOver();
     // A pointer alone fits into what the pool keeps, so that nothing else is handed over.
     pool.start([handed = owned.release()] { run(handed); });
 }

@@ -10,8 +10,8 @@ class QThreadPool;
 namespace Tavrin
 {
 
-/// Has a pool do a task. As QThreadPool::start(), but hands the task over by a lock that a thread
-/// sanitizer sees; of what Qt does inside it sees nothing, and would take the task for a race.
+/// Has a pool do a task. As QThreadPool::start(), with the task and what it did handed over (see
+/// handOver()): whoever waits for the pool and then calls that has seen all of it.
 TAVRIN_CORE_EXPORT void startTask(QThreadPool &pool, std::function<void()> task);
 
 } // namespace Tavrin

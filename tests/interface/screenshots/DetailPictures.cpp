@@ -2,7 +2,6 @@
 #include <QApplication>
 #include <QSettings>
 #include <QTest>
-#include <QThreadPool>
 
 #include <Tavrin/interface/detail/DetailView.h>
 #include <Tavrin/interface/detail/EntryHighlightPDFView.h>
@@ -13,6 +12,7 @@
 #include <Tavrin/pdfspec/PDFSpecification.h>
 #include <Tavrin/platform/BackgroundPool.h>
 #include <Tavrin/platform/StringLocalizer.h>
+#include <support/FinishTasks.h>
 #include <support/PDFBuilder.h>
 
 #include "Pictures.h"
@@ -145,7 +145,7 @@ void takeDetailPictures(Studio &studio)
     shootEntry(studio, specification);
     shootCoverage(studio, specification);
     shootTroubles(studio, specification);
-    backgroundPool().waitForDone();
+    finishTasks(backgroundPool());
 }
 
 } // namespace Tavrin::Testing

@@ -9,6 +9,7 @@
 #include <Tavrin/interface/detail/SpecPDFSearchViewController.h>
 #include <Tavrin/interface/toolkit/SerialBackground.h>
 #include <interface/SummaryFixture.h>
+#include <support/FinishTasks.h>
 
 #include "Pictures.h"
 #include "Studio.h"
@@ -43,7 +44,7 @@ public:
     {
         controller.reset();
         // It stores its text in a folder that goes.
-        serialBackground().waitForDone();
+        finishTasks(serialBackground());
     }
     Scene(const Scene &) = delete;
     Scene &operator=(const Scene &) = delete;

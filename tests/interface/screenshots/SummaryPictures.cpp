@@ -5,6 +5,7 @@
 #include <Tavrin/platform/BackgroundPool.h>
 #include <Tavrin/platform/StringLocalizer.h>
 #include <interface/SummaryFixture.h>
+#include <support/FinishTasks.h>
 
 #include "Pictures.h"
 #include "Studio.h"
@@ -55,7 +56,7 @@ public:
         take(u"summary-loading"_s, summaryOf(scope));
         m_isHeldUp = false;
         gate.open();
-        backgroundPool().waitForDone();
+        finishTasks(backgroundPool());
     }
     void takeStates()
     {

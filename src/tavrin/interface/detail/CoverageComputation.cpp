@@ -2,13 +2,7 @@
 #include <Tavrin/interface/detail/CoverageComputation.h>
 
 #include <Tavrin/interface/toolkit/InterfaceLog.h>
-#include <Tavrin/platform/BackgroundPool.h>
-#include <Tavrin/platform/PoolTask.h>
 
-#include <QPromise>
-#include <QThreadPool>
-
-#include <algorithm>
 #include <optional>
 #include <utility>
 
@@ -21,7 +15,8 @@ namespace
 {
 
 using Entry = PDFSpecification::Entry;
-using Promise = QPromise<CoverageMarks::Marks>;
+/// Nothing if another file was bound meanwhile.
+using Result = std::optional<CoverageMarks::Marks>;
 
 struct Reference {
     QString label;
@@ -36,7 +31,7 @@ struct Task {
     QString shortTitle;
     std::vector<Reference> references;
 
-    void run(Promise &promise) const;
+    Result run(const BackgroundWork::Progress &progress) const;
     std::optional<PDFSpecification::PageRects> rects(const Reference &reference) const;
 };
 
@@ -53,44 +48,26 @@ std::optional<PDFSpecification::PageRects> Task::rects(const Reference &referenc
     return std::nullopt;
 }
 
-void Task::run(Promise &promise) const
+Result Task::run(const BackgroundWork::Progress &progress) const
 {
     CoverageMarks marks;
     for (std::size_t i = 0; i < references.size(); ++i) {
         // Held for one entry, not for all: whoever binds a file waits for it.
         const auto lock = specification->readingLock();
-        if (promise.isCanceled() || specification->document() != document)
-            return;
+        if (specification->document() != document)
+            return std::nullopt;
         if (const auto found = rects(references[i])) {
             marks.add(*found);
-            promise.setProgressValue(static_cast<int>(i));
+            progress(static_cast<double>(i) / static_cast<double>(references.size()));
         } else {
             qCWarning(interfaceLog).noquote() << u"Couldn't find entry geometry for %1 in %2"_s.arg(
                 references[i].label, shortTitle);
         }
     }
-    promise.addResult(marks.merged());
+    return marks.merged();
 }
 
 } // namespace
-
-CoverageComputation::CoverageComputation(QObject *parent) : QObject(parent)
-{
-    connect(&m_watcher, &QFutureWatcherBase::progressValueChanged, this, [this](int value) {
-        Q_EMIT progressed(double(value) / std::max(1, m_watcher.progressMaximum()));
-    });
-    connect(&m_watcher, &QFutureWatcherBase::finished, this, [this] {
-        if (m_watcher.future().resultCount() > 0)
-            Q_EMIT finished(m_watcher.result());
-        else
-            Q_EMIT outdated();
-    });
-}
-
-CoverageComputation::~CoverageComputation()
-{
-    m_watcher.cancel();
-}
 
 void CoverageComputation::start(const std::shared_ptr<PDFSpecification> &specification,
                                 const ReferenceCoverage &coverage)
@@ -103,14 +80,17 @@ void CoverageComputation::start(const std::shared_ptr<PDFSpecification> &specifi
         task.references.push_back({reference.label, std::dynamic_pointer_cast<Entry>(
                                                         specification->entry(reference.label))});
     }
-    const auto promise = std::make_shared<Promise>();
-    promise->setProgressRange(0, static_cast<int>(coverage.size()));
-    m_watcher.setFuture(promise->future());
-    promise->start();
-    // The application waits for this pool before it ends.
-    startTask(backgroundPool(), [promise, task = std::move(task)] {
-        task.run(*promise);
-        promise->finish();
+    const auto result = std::make_shared<Result>();
+    m_work = std::make_unique<BackgroundWork>();
+    connect(m_work.get(), &BackgroundWork::progressed, this, &CoverageComputation::progressed);
+    connect(m_work.get(), &BackgroundWork::finished, this, [this, result] {
+        if (*result)
+            Q_EMIT finished(**result);
+        else
+            Q_EMIT outdated();
+    });
+    m_work->start([result, task = std::move(task)](const BackgroundWork::Progress &progress) {
+        *result = task.run(progress);
     });
 }
 

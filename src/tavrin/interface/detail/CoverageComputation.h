@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <QFutureWatcher>
 #include <QObject>
 
 #include <memory>
 #include <vector>
 
 #include <Tavrin/interface/detail/CoverageMarks.h>
+#include <Tavrin/interface/toolkit/BackgroundWork.h>
 #include <Tavrin/model/ReferenceCoverage.h>
 #include <Tavrin/pdfspec/PDFSpecificationEntry.h>
 
@@ -25,13 +25,11 @@ class CoverageComputation : public QObject
     Q_OBJECT
 
 public:
-    explicit CoverageComputation(QObject *parent = nullptr);
-    ~CoverageComputation() override;
+    using QObject::QObject;
 
     /// Looks the labels up and begins. An entry without a place is told in the log. Once.
     void start(const std::shared_ptr<PDFSpecification> &specification,
                const ReferenceCoverage &coverage);
-    bool isRunning() const { return m_watcher.isRunning(); }
 
 Q_SIGNALS:
     /// The share of the references that came before the one just found: below 1.0. Not each is
@@ -42,7 +40,7 @@ Q_SIGNALS:
     void outdated();
 
 private:
-    QFutureWatcher<CoverageMarks::Marks> m_watcher;
+    std::unique_ptr<BackgroundWork> m_work;
 };
 
 } // namespace Tavrin

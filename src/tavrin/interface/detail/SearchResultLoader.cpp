@@ -5,12 +5,12 @@
 #include <Tavrin/interface/detail/ThreadSafeQueue.h>
 #include <Tavrin/platform/BackgroundPool.h>
 #include <Tavrin/platform/PoolTask.h>
+#include <Tavrin/platform/PostedTask.h>
 
 #include <QElapsedTimer>
-#include <QFutureWatcher>
-#include <QPromise>
 
 #include <atomic>
+#include <optional>
 
 namespace Tavrin
 {
@@ -34,17 +34,19 @@ void compute(const SpecPDFSearchResult &result)
 } // namespace
 
 /// What the main thread shares with the thread that computes.
-struct SearchResultLoader::Drain {
-    using Promise = QPromise<ResultPtr>;
+struct SearchResultLoader::Drain : std::enable_shared_from_this<Drain> {
+    explicit Drain(SearchResultLoader *loader) : listener(loader) {}
 
-    void run(Promise &promise)
+    void run()
     {
         isLoading = true;
         while (const auto result = next()) {
             compute(**result);
-            promise.addResult(*result);
+            postTask([self = shared_from_this(), result = *result] {
+                if (self->listener)
+                    self->listener->take(result);
+            });
         }
-        promise.finish();
     }
     std::optional<ResultPtr> next()
     {
@@ -60,10 +62,12 @@ struct SearchResultLoader::Drain {
 
     ThreadSafeQueue<ResultPtr> entryLoadQueue;
     std::atomic<bool> isLoading = false;
+    /// Null once it is gone. Main thread.
+    SearchResultLoader *listener;
 };
 
 SearchResultLoader::SearchResultLoader(QObject *parent)
-    : QObject(parent), m_drain(std::make_shared<Drain>())
+    : QObject(parent), m_drain(std::make_shared<Drain>(this))
 {
     connect(&m_announcing, &QTimer::timeout, this, &SearchResultLoader::announce);
 }
@@ -71,6 +75,7 @@ SearchResultLoader::SearchResultLoader(QObject *parent)
 SearchResultLoader::~SearchResultLoader()
 {
     removeAll();
+    m_drain->listener = nullptr;
 }
 
 bool SearchResultLoader::isLoading() const
@@ -96,17 +101,14 @@ void SearchResultLoader::removeAll()
 
 void SearchResultLoader::startDrain()
 {
-    const auto promise = std::make_shared<Drain::Promise>();
-    auto *watcher = new QFutureWatcher<ResultPtr>(this);
-    connect(watcher, &QFutureWatcherBase::resultReadyAt, this, [this, watcher](int index) {
-        m_loaded.push_back(watcher->resultAt(index));
-        m_announcing.start();
-    });
-    connect(watcher, &QFutureWatcherBase::finished, watcher, &QObject::deleteLater);
-    watcher->setFuture(promise->future());
-    promise->start();
     // The application waits for this pool before it ends.
-    startTask(backgroundPool(), [drain = m_drain, promise] { drain->run(*promise); });
+    startTask(backgroundPool(), [drain = m_drain] { drain->run(); });
+}
+
+void SearchResultLoader::take(const ResultPtr &result)
+{
+    m_loaded.push_back(result);
+    m_announcing.start();
 }
 
 /// In slices, as much may have come together while the main thread was busy.

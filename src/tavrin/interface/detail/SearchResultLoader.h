@@ -41,6 +41,7 @@ private:
     struct Drain;
 
     void startDrain();
+    void take(const ResultPtr &result);
     void announce();
 
     std::shared_ptr<Drain> m_drain;

@@ -11,11 +11,10 @@
 #include <Tavrin/interface/toolkit/SearchFieldKeys.h>
 #include <Tavrin/interface/toolkit/SerialBackground.h>
 #include <Tavrin/platform/PoolTask.h>
+#include <Tavrin/platform/PostedTask.h>
 #include <Tavrin/platform/StringLocalizer.h>
 
 #include <QAction>
-#include <QFutureWatcher>
-#include <QPromise>
 #include <QSettings>
 
 #include <chrono>
@@ -180,20 +179,14 @@ void SpecPDFSearchViewController::storeText()
 
 void SpecPDFSearchViewController::search(const QString &text)
 {
-    auto *watcher = new QFutureWatcher<std::optional<Entries>>(this);
-    connect(watcher, &QFutureWatcherBase::finished, this, [this, watcher, text] {
-        watcher->deleteLater();
-        if (const auto entries = watcher->result())
-            showResults(*entries, text);
-    });
-    const auto promise = std::make_shared<QPromise<std::optional<Entries>>>();
-    watcher->setFuture(promise->future());
-    promise->start();
     // The thread doesn't wait until the results are shown: the application may have begun to end.
-    startTask(serialBackground(), [promise, text, specification = m_specification,
+    startTask(serialBackground(), [this, text, specification = m_specification,
                                    life = std::weak_ptr<char>(m_life)] {
-        promise->addResult(entriesWith(text, life.expired() ? nullptr : specification.get()));
-        promise->finish();
+        const auto entries = entriesWith(text, life.expired() ? nullptr : specification.get());
+        postTask([this, text, life, entries] {
+            if (entries && !life.expired())
+                showResults(*entries, text);
+        });
     });
 }
 

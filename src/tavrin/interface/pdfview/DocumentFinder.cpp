@@ -2,6 +2,7 @@
 #include <Tavrin/interface/pdfview/DocumentFinder.h>
 
 #include <Tavrin/interface/pdfview/FoldedText.h>
+#include <Tavrin/platform/PostedTask.h>
 
 #include <algorithm>
 #include <chrono>
@@ -37,20 +38,14 @@ struct DocumentFinder::Search {
         const std::scoped_lock lock(mutex);
         return finder != nullptr;
     }
-    /// Calls back on the finder's thread, if it wants this search then.
+    /// Calls back on the main thread, if it wants this search then.
     template <class Callback>
     static void tell(const std::shared_ptr<Search> &search, Callback callback)
     {
-        const std::scoped_lock lock(search->mutex);
-        if (!search->finder)
-            return;
-        QMetaObject::invokeMethod(
-            search->finder,
-            [search, callback = std::move(callback)] {
-                if (search->isWanted())
-                    callback(*search->finder);
-            },
-            Qt::QueuedConnection);
+        postTask([search, callback = std::move(callback)] {
+            if (search->isWanted())
+                callback(*search->finder);
+        });
     }
 };
 

@@ -22,11 +22,14 @@ struct PageRenderer::Job {
 };
 
 PageRenderer::PageRenderer(QObject *parent, std::chrono::milliseconds patience)
-    : QObject(parent), m_patience(patience), m_thread([this] { work(); })
+    : QObject(parent), m_patience(patience)
 {
     m_patienceTimer.setInterval(std::min(patience, std::chrono::milliseconds(1000)));
     connect(&m_patienceTimer, &QTimer::timeout, this, &PageRenderer::checkPatience);
+    connect(this, &PageRenderer::resultsCame, this, &PageRenderer::takeResults,
+            Qt::QueuedConnection);
     m_patienceTimer.start();
+    m_thread = std::thread([this] { work(); });
 }
 
 PageRenderer::~PageRenderer()
@@ -156,7 +159,7 @@ void PageRenderer::deliver(int generation, std::function<void()> callback)
     const std::scoped_lock lock(m_mutex);
     m_results.push_back({generation, std::move(callback)});
     if (m_results.size() == 1)
-        QMetaObject::invokeMethod(this, &PageRenderer::takeResults, Qt::QueuedConnection);
+        Q_EMIT resultsCame(QPrivateSignal());
 }
 
 void PageRenderer::takeResults()

@@ -54,6 +54,8 @@ Q_SIGNALS:
     /// The page can't be drawn, or takes too long.
     void tileFailed(const PageTile &tile);
     void contentsRead(int page, const PageContentsPtr &contents);
+    /// From the thread that reads; of use to nobody else.
+    void resultsCame(QPrivateSignal);
 
 private:
     using Pages = std::vector<std::shared_ptr<HostPDFPage>>;

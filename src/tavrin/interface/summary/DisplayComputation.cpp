@@ -2,9 +2,6 @@
 #include <Tavrin/interface/summary/DisplayComputation.h>
 
 #include <Tavrin/pdfspec/PDFSpecificationEntry.h>
-#include <Tavrin/platform/BackgroundPool.h>
-
-#include <QThreadPool>
 
 namespace Tavrin
 {
@@ -30,20 +27,6 @@ QImage compute(const Entry &entry, double scale)
 
 } // namespace
 
-DisplayComputation::DisplayComputation(QObject *parent) : QObject(parent)
-{
-    connect(&m_watcher, &QFutureWatcherBase::finished, this, [this] {
-        m_preview = m_watcher.result();
-        Q_EMIT finished();
-    });
-}
-
-DisplayComputation::~DisplayComputation()
-{
-    if (m_isGivenUp)
-        *m_isGivenUp = true;
-}
-
 bool DisplayComputation::isNeeded(const SpecificationEntry &entry)
 {
     const auto *shown = dynamic_cast<const Entry *>(&entry);
@@ -55,12 +38,15 @@ void DisplayComputation::start(const std::shared_ptr<SpecificationEntry> &entry,
     const auto shown = std::dynamic_pointer_cast<Entry>(entry);
     if (!shown)
         return;
-    m_isGivenUp = std::make_shared<std::atomic<bool>>(false);
-    // The application waits for this pool before it ends.
-    m_watcher.setFuture(QtFuture::makeReadyFuture().then(
-        &backgroundPool(), [shown, scale, isGivenUp = m_isGivenUp] {
-            return *isGivenUp ? QImage() : compute(*shown, scale);
-        }));
+    const auto preview = std::make_shared<QImage>();
+    m_work = std::make_unique<BackgroundWork>();
+    connect(m_work.get(), &BackgroundWork::finished, this, [this, preview] {
+        m_preview = *preview;
+        Q_EMIT finished();
+    });
+    m_work->start([shown, scale, preview](const BackgroundWork::Progress &) {
+        *preview = compute(*shown, scale);
+    });
 }
 
 } // namespace Tavrin

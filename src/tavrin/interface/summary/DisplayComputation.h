@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <QFutureWatcher>
 #include <QImage>
 #include <QObject>
 
-#include <atomic>
 #include <memory>
 
+#include <Tavrin/interface/toolkit/BackgroundWork.h>
 #include <Tavrin/model/SpecificationEntry.h>
 
 namespace Tavrin
@@ -23,15 +22,13 @@ class DisplayComputation : public QObject
     Q_OBJECT
 
 public:
-    explicit DisplayComputation(QObject *parent = nullptr);
-    ~DisplayComputation() override;
+    using QObject::QObject;
 
     /// Whether reading the display items of the entry may take as long as an extraction.
     static bool isNeeded(const SpecificationEntry &entry);
 
     /// Begins, with a preview of `scale` pixels a point as well if that is more than one.
     void start(const std::shared_ptr<SpecificationEntry> &entry, double scale);
-    bool isRunning() const { return m_watcher.isRunning(); }
 
     /// The entry's preview at the scale asked for; null before it is there, and if there is none.
     const QImage &preview() const { return m_preview; }
@@ -40,8 +37,7 @@ Q_SIGNALS:
     void finished();
 
 private:
-    QFutureWatcher<QImage> m_watcher;
-    std::shared_ptr<std::atomic<bool>> m_isGivenUp;
+    std::unique_ptr<BackgroundWork> m_work;
     QImage m_preview;
 };
 

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <Tavrin/interface/toolkit/BackgroundWork.h>
 
-#include <QCoreApplication>
-#include <QPromise>
-#include <QThreadPool>
+#include <Tavrin/platform/BackgroundPool.h>
+#include <Tavrin/platform/PoolTask.h>
+#include <Tavrin/platform/PostedTask.h>
 
-#include <memory>
+#include <atomic>
+#include <chrono>
 
 namespace Tavrin
 {
@@ -13,73 +14,68 @@ namespace Tavrin
 namespace
 {
 
-constexpr int steps = 1'000;
+/// How often progress is told.
+constexpr std::chrono::milliseconds tellingInterval{40};
 
 /// Thrown by the progress of work that nobody waits for any more.
 struct GivenUp {
 };
 
-/// Not the application's own pool: there the toolkit converts images while the main thread waits.
-QThreadPool &pool()
-{
-    static QThreadPool threads;
-    static const bool isWaitedFor = [] {
-        qAddPostRoutine(BackgroundWork::waitForDone);
-        return true;
-    }();
-    Q_UNUSED(isWaitedFor)
-    return threads;
-}
-
-void run(QPromise<QString> &promise, const BackgroundWork::Work &work)
-{
-    QString error;
-    try {
-        work([&promise](double done) {
-            if (promise.isCanceled())
-                throw GivenUp();
-            promise.setProgressValue(static_cast<int>(done * steps));
-        });
-    } catch (const GivenUp &) {
-        return;
-    } catch (const std::exception &exception) {
-        error = QString::fromUtf8(exception.what());
-    }
-    promise.addResult(error);
-}
-
 } // namespace
 
-BackgroundWork::BackgroundWork(QObject *parent) : QObject(parent)
-{
-    connect(&m_watcher, &QFutureWatcherBase::progressValueChanged, this,
-            [this](int value) { Q_EMIT progressed(static_cast<double>(value) / steps); });
-    connect(&m_watcher, &QFutureWatcherBase::finished, this, [this] {
-        if (!m_watcher.isCanceled())
-            Q_EMIT finished(m_watcher.result());
-    });
-}
+/// What the main thread shares with the thread that works.
+struct BackgroundWork::Run : std::enable_shared_from_this<Run> {
+    explicit Run(BackgroundWork *waiting) : waiter(waiting) {}
+
+    void perform(const Work &work)
+    {
+        QString error;
+        try {
+            work([this](double done) { tell(done); });
+        } catch (const GivenUp &) {
+            return;
+        } catch (const std::exception &exception) {
+            error = QString::fromUtf8(exception.what());
+        }
+        postTask([self = shared_from_this(), error] {
+            if (!self->isGivenUp)
+                Q_EMIT self->waiter->finished(error);
+        });
+    }
+    void tell(double done)
+    {
+        if (isGivenUp)
+            throw GivenUp();
+        // The first is told at once.
+        const auto now = std::chrono::steady_clock::now();
+        if (now - lastTold < tellingInterval)
+            return;
+        lastTold = now;
+        postTask([self = shared_from_this(), done] {
+            if (!self->isGivenUp)
+                Q_EMIT self->waiter->progressed(done);
+        });
+    }
+
+    /// Set on the main thread, by the waiter that goes.
+    std::atomic<bool> isGivenUp = false;
+    BackgroundWork *const waiter;
+    std::chrono::steady_clock::time_point lastTold;
+};
 
 BackgroundWork::~BackgroundWork()
 {
-    m_watcher.cancel();
-}
-
-void BackgroundWork::waitForDone()
-{
-    pool().waitForDone();
+    if (m_run)
+        m_run->isGivenUp = true;
 }
 
 void BackgroundWork::start(const Work &work)
 {
-    const auto promise = std::make_shared<QPromise<QString>>();
-    promise->setProgressRange(0, steps);
-    m_watcher.setFuture(promise->future());
-    promise->start();
-    pool().start([promise, work] {
-        if (!promise->isCanceled())
-            run(*promise, work);
-        promise->finish();
+    m_run = std::make_shared<Run>(this);
+    // The application waits for this pool before it ends.
+    startTask(backgroundPool(), [run = m_run, work] {
+        if (!run->isGivenUp)
+            run->perform(work);
     });
 }
 

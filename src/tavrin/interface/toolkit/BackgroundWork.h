@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <QFutureWatcher>
 #include <QObject>
 
 #include <functional>
+#include <memory>
 
 namespace Tavrin
 {
 
-/// One piece of long work in the background, with progress. Dropping the object gives up what is
+/// One piece of long work on backgroundPool(), with progress. Dropping the object gives up what is
 /// not done; what the work holds lives until it ends. Main thread.
 class BackgroundWork : public QObject
 {
@@ -21,14 +21,11 @@ public:
     using Progress = std::function<void(double done)>;
     using Work = std::function<void(const Progress &)>;
 
-    explicit BackgroundWork(QObject *parent = nullptr);
+    using QObject::QObject;
     ~BackgroundWork() override;
 
     /// Begins. Once.
     void start(const Work &work);
-
-    /// Waits for all work that has begun, given up or not, as the application does before it ends.
-    static void waitForDone();
 
 Q_SIGNALS:
     /// Some times a second at most.
@@ -37,7 +34,9 @@ Q_SIGNALS:
     void finished(const QString &error);
 
 private:
-    QFutureWatcher<QString> m_watcher;
+    struct Run;
+
+    std::shared_ptr<Run> m_run;
 };
 
 } // namespace Tavrin
