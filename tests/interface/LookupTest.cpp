@@ -2,13 +2,19 @@
 #include <QApplication>
 #include <QLabel>
 #include <QPushButton>
+#include <QThread>
 #include <QVBoxLayout>
+
+#include <atomic>
 
 #include <Tavrin/interface/detail/SpecPDFViewController.h>
 #include <Tavrin/interface/files/AuxiliaryFileBrowserController.h>
 #include <Tavrin/interface/summary/SpecEntrySummaryViewController.h>
 #include <Tavrin/interface/summary/SpecErrorViewController.h>
 #include <Tavrin/interface/toolkit/Popover.h>
+#include <Tavrin/pdfspec/PDFSpecification.h>
+#include <Tavrin/platform/BackgroundPool.h>
+#include <support/FinishTasks.h>
 
 #include "SharedManagerFixture.h"
 
@@ -71,6 +77,38 @@ TEST_F(LookupViews, ShowASummaryWhoseLinksLeadToTheDetailView)
     EXPECT_EQ(detail->specification(), alpha) << "the summary's own, though another is primary";
     EXPECT_EQ(detail->entry(), alpha->entry(u"1"_s));
     EXPECT_EQ(manager.currentDetailViewController(), details.front());
+}
+
+TEST_F(LookupViews, HaveThePrimarySpecificationMeasuredInTheBackground)
+{
+    /// Knows on which thread, and how often, its print was measured.
+    class Measured : public PDFSpecification
+    {
+    public:
+        using PDFSpecification::PDFSpecification;
+        double computeNormalTextSize(const CachingPDFDocument &, int) const override
+        {
+            ++times;
+            wasOnMainThread = QThread::currentThread() == QCoreApplication::instance()->thread();
+            return 10;
+        }
+        mutable std::atomic<int> times = 0;
+        mutable std::atomic<bool> wasOnMainThread = true;
+    };
+    const auto primary = Specification::make<Measured>();
+    const auto other = Specification::make<Measured>();
+    manager.setSpecifications({primary, other});
+    manager.setPrimarySpecification(primary);
+    const QUrl document = writeDocument(u"alpha"_s, u"alpha.pdf"_s);
+    for (const auto &specification : {primary, other})
+        specification->loadPDFDocument(document);
+    QCoreApplication::processEvents();
+    finishTasks(backgroundPool());
+    EXPECT_EQ(primary->times, 1);
+    EXPECT_FALSE(primary->wasOnMainThread);
+    EXPECT_EQ(other->times, 0) << "that would cost memory for each document";
+    EXPECT_EQ(primary->normalTextSize(), 10);
+    EXPECT_EQ(primary->times, 1);
 }
 
 TEST_F(LookupViews, ShowNothingForAWrongLabelAndAPromptWithoutDocuments)

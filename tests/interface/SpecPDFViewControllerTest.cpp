@@ -4,6 +4,7 @@
 #include <QSplitter>
 
 #include <support/Corpus.h>
+#include <support/FinishTasks.h>
 
 #include <Tavrin/interface/detail/CustomDividerSplitView.h>
 #include <Tavrin/manager/SpecificationManager.h>
@@ -111,6 +112,32 @@ TEST_F(SpecPDFViewControllerTest, AnEntrySelectedBeforeLoadingIsOutlinedThen)
     EXPECT_THAT(listener->labels, IsEmpty());
     show();
     EXPECT_FALSE(controller->shouldHighlightOnLoad());
+    // Its pages are read meanwhile.
+    EXPECT_TRUE(QTest::qWaitFor([this] { return view().pageRects.has_value(); }));
+    EXPECT_THAT(outlinedPages(), ElementsAre(2));
+    EXPECT_THAT(listener->labels, ElementsAre(u"Figure 1"_s));
+}
+
+TEST_F(SpecPDFViewControllerTest, AnEntryThatIsReplacedBeforeItIsReadIsNotOutlined)
+{
+    controller->setAllowsEntrySelection(true);
+    controller->selectEntry(red);
+    controller->view();
+    controller->setEntry(scope);
+    show();
+    finishTasks(backgroundPool());
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(view().pageRects);
+    EXPECT_THAT(listener->labels, IsEmpty());
+}
+
+TEST_F(SpecPDFViewControllerTest, AnEntryThatIsReadBeforeTheViewIsLoadedIsOutlinedAtOnce)
+{
+    controller->setAllowsEntrySelection(true);
+    controller->selectEntry(red);
+    finishTasks(backgroundPool());
+    QCoreApplication::processEvents();
+    controller->view();
     EXPECT_THAT(outlinedPages(), ElementsAre(2));
     EXPECT_THAT(listener->labels, ElementsAre(u"Figure 1"_s));
 }
@@ -326,7 +353,7 @@ TEST(SpecPDFViewControllerCorpusTest, OpeningAtAnEntryShowsItsHighlight)
     controller->view()->resize(1000, 800);
     controller->view()->show();
     auto &view = controller->viewer()->pdfView();
-    ASSERT_TRUE(QTest::qWaitFor([&] { return view.isFullyDrawn(); }, 20'000));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return view.isFullyDrawn() && view.pageRects; }, 20'000));
     EXPECT_EQ(controller->title(), specification->title());
     const auto shown = std::dynamic_pointer_cast<PDFSpecification::Entry>(entry);
     const auto info = specification->pageRectInfo(*shown);

@@ -37,6 +37,8 @@ public:
     /// Has a detail view mark references each time it appears. False if it is no detail view.
     virtual bool showReferenceCoverage(ViewController &detail,
                                        const ReferenceCoverage &coverage) = 0;
+    /// A document was bound to the specification: views of it may be wanted soon.
+    virtual void documentBound(const std::shared_ptr<Specification> &specification);
 
     /// Null without windows.
     static ViewControllerFactory *installed();

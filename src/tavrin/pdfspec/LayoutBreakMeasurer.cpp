@@ -84,8 +84,7 @@ struct LayoutBreakMeasurer::PageView {
 };
 
 LayoutBreakMeasurer::LayoutBreakMeasurer(const PDFSpecification &specification)
-    : m_specification(specification),
-      m_body(specification.document() ? specification.bodyShape() : nullptr)
+    : m_specification(specification)
 {
 }
 
@@ -235,7 +234,7 @@ CaptionSurroundings LayoutBreakMeasurer::surroundings(const PDFSpecification::En
     return around;
 }
 
-std::vector<Kind> LayoutBreakMeasurer::kinds(const PageView &view) const
+std::vector<Kind> LayoutBreakMeasurer::kinds(const PageView &view)
 {
     const int page = view.page->index();
     // A heading can stand on the page behind its place.
@@ -260,8 +259,11 @@ std::vector<Kind> LayoutBreakMeasurer::kinds(const PageView &view) const
     return kinds;
 }
 
-Kind LayoutBreakMeasurer::bodyKind(const PageView &view, const PageLine &line) const
+Kind LayoutBreakMeasurer::bodyKind(const PageView &view, const PageLine &line)
 {
+    // Most pages have no figure, and of a section alone the shape need not be known.
+    if (!m_body)
+        m_body = m_specification.bodyShape();
     if (!m_body->isBodyFont(line.font))
         return Kind::Free;
     const Rect start = m_body->movedToMargin(line.start, *view.page, m_specification.leftMargin());

@@ -45,12 +45,13 @@ private:
                                const CaptionFinder::Caption &caption) const;
     CaptionSurroundings surroundings(const PDFSpecification::Entry &entry,
                                      const PageView &view) const;
-    std::vector<CaptionSurroundings::Kind> kinds(const PageView &view) const;
-    CaptionSurroundings::Kind bodyKind(const PageView &view, const PageLine &line) const;
+    std::vector<CaptionSurroundings::Kind> kinds(const PageView &view);
+    CaptionSurroundings::Kind bodyKind(const PageView &view, const PageLine &line);
     /// Whether the line begins as the caption of a figure or table of these pages.
     bool isCaption(const PageView &view, const PageLine &line) const;
 
     const PDFSpecification &m_specification;
+    /// Null until it is asked for.
     std::shared_ptr<const BodyShape> m_body;
     /// The page last looked at, and the one before: regions reach no further than the next page.
     std::shared_ptr<PageView> m_views[2];

@@ -186,6 +186,10 @@ public:
     virtual double computeLeftMargin(const CachingPDFDocument &document, PDFBox box,
                                      int interval) const;
 
+    /// Measures size, margin, and what else of the print reading needs, so that the first reading
+    /// is as quick as the next. Any thread; does nothing while no document is bound.
+    void measurePrint() const;
+
     using HeadingCallback =
         std::function<void(const QString &heading, TextRange range, bool &stop)>;
     /// Stretches of a text that are larger than the body, bold or italic, from front to back; the
@@ -296,6 +300,7 @@ private:
     std::optional<AuxFileMetadata> loadPDFFileMetadata(const QUrl &url) const;
     bool recognisesCandidate(const AuxFileMetadata &metadata,
                              const AuxiliaryFileRequirement &requirement);
+    void tellBound();
     void readNamedDestinations(const PDFDictionary &catalog,
                                const std::shared_ptr<CachingPDFDocument> &document);
     std::optional<EntryPageInfo> graphicalRects(const Entry &entry) const;

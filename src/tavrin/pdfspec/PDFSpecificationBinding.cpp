@@ -9,6 +9,7 @@
 #include <typeinfo>
 #include <utility>
 
+#include <Tavrin/model/ViewControllerFactory.h>
 #include <Tavrin/pdfspec/FirstPageMemory.h>
 #include <Tavrin/pdfspec/ReadingCache.h>
 #include <Tavrin/pdfspec/VerifierText.h>
@@ -107,6 +108,7 @@ bool PDFSpecification::assignAuxiliaryFile(const QUrl &url,
     }
     loadPDFStructure(document);
     readPageBounds(requirement.readInfo);
+    tellBound();
     return true;
 }
 
@@ -144,10 +146,19 @@ void PDFSpecification::readPageBounds(const QString &readInfo)
 
 void PDFSpecification::loadPDFDocument(const QUrl &url)
 {
-    if (const auto document = openDocument(url))
+    if (const auto document = openDocument(url)) {
         loadPDFStructure(document);
-    else
+        tellBound();
+    } else {
         standardError(u"Couldn't load document from URL "_s + url.toString());
+    }
+}
+
+void PDFSpecification::tellBound()
+{
+    auto *factory = ViewControllerFactory::installed();
+    if (const auto self = factory ? weak_from_this().lock() : nullptr)
+        factory->documentBound(self);
 }
 
 } // namespace Tavrin

@@ -26,7 +26,7 @@ double PDFSpecification::normalTextSize() const
 {
     if (!m_cachingDocument && !m_reading->knows(ReadingCache::Measure::TextSize))
         return 0;
-    return *m_reading->get(&ReadingCache::measures, ReadingCache::Measure::TextSize, [this] {
+    return *m_reading->measure(&ReadingCache::measures, ReadingCache::Measure::TextSize, [this] {
         return std::make_shared<const double>(
             computeNormalTextSize(*m_cachingDocument, textSizeInterval));
     });
@@ -36,7 +36,7 @@ double PDFSpecification::leftMargin() const
 {
     if (!m_cachingDocument && !m_reading->knows(ReadingCache::Measure::LeftMargin))
         return 0;
-    return *m_reading->get(&ReadingCache::measures, ReadingCache::Measure::LeftMargin, [this] {
+    return *m_reading->measure(&ReadingCache::measures, ReadingCache::Measure::LeftMargin, [this] {
         return std::make_shared<const double>(
             computeLeftMargin(*m_cachingDocument, PDFBox::Media, leftMarginInterval));
     });
@@ -54,9 +54,18 @@ double PDFSpecification::computeLeftMargin(const CachingPDFDocument &document, P
     return LayoutMeasurer::leftMargin(document, box, {1, interval});
 }
 
+void PDFSpecification::measurePrint() const
+{
+    if (!m_cachingDocument)
+        return;
+    leftMargin();
+    // The text size is part of it.
+    bodyShape();
+}
+
 std::shared_ptr<const BodyShape> PDFSpecification::bodyShape() const
 {
-    return m_reading->get(&ReadingCache::shapes, 0, [this] {
+    return m_reading->measure(&ReadingCache::shapes, 0, [this] {
         return std::make_shared<const BodyShape>(*m_cachingDocument, normalTextSize());
     });
 }

@@ -3,6 +3,7 @@
 
 #include <map>
 #include <memory>
+#include <mutex>
 #include <optional>
 #include <shared_mutex>
 
@@ -17,7 +18,8 @@ namespace Tavrin
 /// immutable once stored.
 ///
 /// Two threads that miss the same value at once both make it, and the first one stored stays:
-/// computing without the lock lets a computation ask for other values.
+/// computing without the lock lets a computation ask for other values. What is measured on many
+/// pages is made by one thread, and the others wait.
 class ReadingCache
 {
 public:
@@ -43,6 +45,18 @@ public:
         std::shared_ptr<const Value> value = make();
         const std::unique_lock lock(m_mutex);
         return (this->*table).emplace(key, std::move(value)).first->second;
+    }
+
+    /// As get(), but made by one thread at a time. What is made this way may ask for others of its
+    /// kind, but not for what is made under a lock of an entry.
+    template <class Key, class Value, class Make>
+    std::shared_ptr<const Value> measure(Table<Key, Value> ReadingCache::*table, const Key &key,
+                                         const Make &make)
+    {
+        return get(table, key, [&] {
+            const std::scoped_lock lock(m_measuring);
+            return get(table, key, make);
+        });
     }
 
     bool knows(Measure measure)
@@ -73,6 +87,7 @@ public:
 
 private:
     std::shared_mutex m_mutex;
+    std::recursive_mutex m_measuring;
 };
 
 } // namespace Tavrin

@@ -97,7 +97,11 @@ void HighlightTabViewController::selectTab(int index)
     m_isSelecting = true;
     m_tabView->setCurrentIndex(index);
     m_isSelecting = false;
-    QSettings().setValue(QLatin1String(selectedTabKey), m_tabView->currentIndex());
+    // Each value that is set is written to the file, the same one too.
+    QSettings settings;
+    const QLatin1String key(selectedTabKey);
+    if (settings.value(key).toString() != QString::number(m_tabView->currentIndex()))
+        settings.setValue(key, m_tabView->currentIndex());
 }
 
 void HighlightTabViewController::updateButtons(int index)

@@ -10,6 +10,7 @@
 #include <Tavrin/interface/detail/SpecPDFOutlineViewController.h>
 #include <Tavrin/interface/detail/SpecPDFSearchViewController.h>
 #include <Tavrin/interface/detail/SpecPDFViewer.h>
+#include <Tavrin/interface/toolkit/BackgroundWork.h>
 #include <Tavrin/interface/toolkit/FileWatch.h>
 #include <Tavrin/interface/toolkit/InterfaceLog.h>
 #include <Tavrin/interface/toolkit/NoticeBar.h>
@@ -22,6 +23,7 @@
 #include <QScopedValueRollback>
 
 #include <chrono>
+#include <utility>
 
 namespace Tavrin
 {
@@ -35,9 +37,6 @@ using namespace std::chrono_literals;
 
 /// Lists hear of the reader's place no more often than this.
 constexpr auto placeInterval = 150ms;
-/// Below the top of the view: what stands there is what one reads, also just after a jump, which
-/// leaves a little room above its goal.
-constexpr double readingLine = 32;
 
 std::shared_ptr<SpecPDFViewController> makeWithChildren()
 {
@@ -122,10 +121,8 @@ void SpecPDFViewController::viewDidLoad()
         m_viewer->delegate = std::static_pointer_cast<SpecPDFViewController>(shared_from_this());
         m_viewer->setAllowsHighlighting(m_allowsEntrySelection);
     }
-    if (m_shouldHighlightOnLoad && m_entry) {
-        outlineAndTell(m_entry);
-        m_shouldHighlightOnLoad = false;
-    }
+    if (std::exchange(m_shouldHighlightOnLoad, false) && m_entry)
+        outlineOnLoad();
 }
 
 void SpecPDFViewController::takeChildren()
@@ -204,7 +201,7 @@ void SpecPDFViewController::tellPlace()
     const auto *view = pdfView();
     if (!view || !m_sourceViewControllers)
         return;
-    const QPointF point(view->viewport()->width() / 2.0, readingLine);
+    const QPointF point(view->viewport()->width() / 2.0, HostPDFView::readingLine);
     const auto page = view->pageAt(point, true);
     if (!page)
         return;
@@ -219,6 +216,7 @@ void SpecPDFViewController::setEntry(const EntryPtr &entry)
 {
     m_entry = entry;
     m_lostLabel.reset();
+    m_reading.reset();
     if (!entry)
         return;
     setSpecification(std::dynamic_pointer_cast<PDFSpecification>(entry->specification()));
@@ -293,19 +291,50 @@ void SpecPDFViewController::selectEntry(const EntryPtr &entry)
     setEntry(entry);
     const auto specification = pdfSpecification();
     const auto selected = std::dynamic_pointer_cast<PDFSpecification::Entry>(entry);
-    const auto info =
-        specification && selected ? specification->pageRectInfo(*selected) : std::nullopt;
-    if (pdfView())
+    if (pdfView()) {
+        const auto info =
+            specification && selected ? specification->pageRectInfo(*selected) : std::nullopt;
         m_viewer->highlightPageRects(info ? std::optional(info->pageRects) : std::nullopt);
-    // A view that isn't loaded yet catches up.
-    if (info)
+    } else if (specification && selected && selected->destination()) {
+        // A view that isn't loaded yet catches up.
         m_shouldHighlightOnLoad = true;
+        readEntry();
+    }
     if (!m_sourceViewControllers)
         return;
     // A list tells what it selects by itself, too: the outline's section of a figure, for example.
     const QScopedValueRollback telling(m_isTellingLists, true);
     for (const auto &list : *m_sourceViewControllers)
         list->setEntry(selected);
+}
+
+void SpecPDFViewController::readEntry()
+{
+    const auto specification = pdfSpecification();
+    const auto entry = pdfEntry();
+    if (!specification || !entry)
+        return;
+    m_isRead = false;
+    m_reading = std::make_unique<BackgroundWork>();
+    connect(m_reading.get(), &BackgroundWork::finished, this, [this](const QString &error) {
+        m_isRead = error.isEmpty();
+        if (!m_isRead)
+            qCWarning(interfaceLog).noquote() << error;
+        else if (pdfView())
+            outlineAndTell(m_entry);
+    });
+    m_reading->start([specification, entry](const BackgroundWork::Progress &) {
+        const auto lock = specification->readingLock();
+        specification->pageRectInfo(*entry);
+    });
+}
+
+void SpecPDFViewController::outlineOnLoad()
+{
+    if (m_reading && m_isRead)
+        outlineAndTell(m_entry);
+    else if (!m_reading)
+        readEntry();
 }
 
 void SpecPDFViewController::tell(const EntryPtr &entry)
@@ -320,6 +349,9 @@ void SpecPDFViewController::outlineAndTell(const EntryPtr &entry)
     const auto shown = std::dynamic_pointer_cast<PDFSpecification::Entry>(entry);
     if (!m_allowsEntrySelection || !specification || !shown)
         return;
+    // What is chosen now comes after what is still being read.
+    if (!m_isRead)
+        m_reading.reset();
     const auto info = specification->pageRectInfo(*shown);
     if (!info)
         return;

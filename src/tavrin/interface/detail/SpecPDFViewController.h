@@ -16,6 +16,7 @@
 namespace Tavrin
 {
 
+class BackgroundWork;
 class CoverageComputation;
 class DetailView;
 class EntryHighlightPDFView;
@@ -59,8 +60,8 @@ public:
         return m_sourceViewControllers;
     }
 
-    /// Whether the entry that is current when the view is loaded is outlined then. Off at first,
-    /// and off again once that is done.
+    /// Whether the entry that is current when the view is loaded is outlined then, or as soon as
+    /// its pages have been read. Off at first, and off again once that is begun.
     bool shouldHighlightOnLoad() const { return m_shouldHighlightOnLoad; }
     void setShouldHighlightOnLoad(bool should) { m_shouldHighlightOnLoad = should; }
 
@@ -113,6 +114,11 @@ private:
     HostPDFDestination landing(const PDFSpecification::Entry &entry) const;
     void goTo(const HostPDFDestination &place);
     void outlineAndTell(const EntryPtr &entry);
+    /// Has the pages of the current entry read in the background, and outlines it in the view, if
+    /// that is there by then.
+    void readEntry();
+    /// Outlines the current entry once its pages are read: the view must not wait for them.
+    void outlineOnLoad();
     void tell(const EntryPtr &entry);
     void tellPlace();
     void openLink(const QUrl &url);
@@ -153,6 +159,9 @@ private:
     NotificationCenter::TokenPtr m_filesObservation;
     /// Of the entry to come back to when its document does.
     std::optional<QString> m_lostLabel;
+    /// Null if the current entry isn't read for its outline, or was changed since.
+    std::unique_ptr<BackgroundWork> m_reading;
+    bool m_isRead = false;
     std::unique_ptr<CoverageComputation> m_coverage;
     QPointer<ProgressSheet> m_sheet;
 };

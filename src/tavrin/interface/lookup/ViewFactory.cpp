@@ -5,11 +5,36 @@
 #include <Tavrin/interface/files/AuxiliaryFileBrowserController.h>
 #include <Tavrin/interface/lookup/PromptViewController.h>
 #include <Tavrin/interface/summary/SpecEntrySummaryViewController.h>
+#include <Tavrin/interface/toolkit/InterfaceLog.h>
+#include <Tavrin/manager/SpecificationManager.h>
+#include <Tavrin/pdfspec/PDFSpecification.h>
+#include <Tavrin/platform/BackgroundPool.h>
+#include <Tavrin/platform/PoolTask.h>
+#include <Tavrin/platform/PostedTask.h>
 
+#include <exception>
 #include <utility>
 
 namespace Tavrin
 {
+
+namespace
+{
+
+void measure(const std::shared_ptr<PDFSpecification> &specification)
+{
+    startTask(backgroundPool(), [specification] {
+        const auto lock = specification->readingLock();
+        try {
+            specification->measurePrint();
+        } catch (const std::exception &error) {
+            // A host may measure in a way of its own. Whoever reads hears of it again.
+            qCWarning(interfaceLog).noquote() << QString::fromUtf8(error.what());
+        }
+    });
+}
+
+} // namespace
 
 bool ViewFactory::installIfMissing()
 {
@@ -56,6 +81,17 @@ bool ViewFactory::showReferenceCoverage(ViewController &detail, const ReferenceC
     shown->setReferenceCoverage(coverage);
     shown->setShowsReferenceCoverage(true);
     return true;
+}
+
+void ViewFactory::documentBound(const std::shared_ptr<Specification> &specification)
+{
+    // Once all are bound, it is known which is the primary one.
+    postTask([bound = std::weak_ptr(specification)] {
+        const auto primary = std::dynamic_pointer_cast<PDFSpecification>(
+            SpecificationManager::shared().primarySpecification());
+        if (primary && primary == bound.lock())
+            measure(primary);
+    });
 }
 
 } // namespace Tavrin

@@ -21,6 +21,10 @@ public:
                             std::function<void()> pressed) override;
     ViewControllerPtr auxiliaryFileBrowser(const std::optional<QString> &instruction) override;
     bool showReferenceCoverage(ViewController &detail, const ReferenceCoverage &coverage) override;
+    /// Has the print of the primary specification measured in the background, so that the first
+    /// view of it needn't. Of others the pages are read when they are shown: a host may have
+    /// dozens.
+    void documentBound(const std::shared_ptr<Specification> &specification) override;
 };
 
 } // namespace Tavrin

@@ -45,6 +45,9 @@ public:
     static constexpr qsizetype tileBytes = qsizetype(160) * 1024 * 1024;
     /// The scale at which pages are as large as on paper, on a screen of 96 dots an inch: 100 %.
     static constexpr double naturalScale = 96.0 / 72.0;
+    /// From the top of the view, in logical pixels: what stands there is what one reads, also just
+    /// after a jump, which leaves a little room above its goal.
+    static constexpr double readingLine = 32;
 
     explicit HostPDFView(QWidget *parent = nullptr);
     ~HostPDFView() override;
@@ -204,6 +207,8 @@ private:
     void scrollByPages(double pages);
 
     // Painting
+    /// What the pages lie on.
+    QColor desk() const;
     void paintPage(QPainter &painter, int page, const QRect &deviceArea);
     void paintOverlays(QPainter &painter, const PlacedPage &placed, int page);
     void paintPlaceholder(QPainter &painter);

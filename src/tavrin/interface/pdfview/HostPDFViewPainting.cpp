@@ -4,6 +4,7 @@
 
 #include <QPaintEvent>
 #include <QPainter>
+#include <QRegion>
 #include <QScrollBar>
 
 #include <algorithm>
@@ -64,12 +65,11 @@ void HostPDFView::updateWanted()
                 tiles.push_back(tile);
         }
     };
-    // From the middle outward, then a screen on in the direction of reading, then one behind.
+    // From where one reads on, then what is above it, then a screen on in the direction of
+    // reading, then one behind.
     auto pages = visiblePages();
-    const int middle = currentPage();
-    std::stable_sort(pages.begin(), pages.end(), [middle](int a, int b) {
-        return std::abs(a - middle) < std::abs(b - middle);
-    });
+    const int first = m_layout.pageAt(seen.top() + readingLine);
+    std::stable_partition(pages.begin(), pages.end(), [first](int page) { return page >= first; });
     std::vector<int> contents;
     for (const int page : pages) {
         add(page, seen);
@@ -116,27 +116,39 @@ void HostPDFView::drawOverPage(const HostPDFPage &, QPainter &) {}
 void HostPDFView::paintEvent(QPaintEvent *event)
 {
     QPainter painter(viewport());
-    // Darker than a window in the light, and than its paper in the dark.
-    const QColor window = palette().color(QPalette::Window);
-    painter.fillRect(event->rect(), window.darker(window.lightness() > 127 ? 112 : 180));
-    if (!m_document)
+    if (!m_document) {
+        painter.fillRect(event->rect(), desk());
         return paintPlaceholder(painter);
+    }
     const double ratio = devicePixelRatio();
     if (std::exchange(m_paintedRatio, ratio) != ratio)
         updateWanted();
     painter.scale(1 / ratio, 1 / ratio);
     const QRectF logical(event->rect());
     const QRect device = QRectF(logical.topLeft() * ratio, logical.size() * ratio).toAlignedRect();
+    // Not below the pages, which cover it.
+    QRegion around(device);
+    for (const int page : visiblePages())
+        around -= placed(page).rect();
+    for (const QRect &rect : around)
+        painter.fillRect(rect, desk());
     for (const int page : visiblePages()) {
         if (placed(page).rect().adjusted(-4, -4, 4, 4).intersects(device))
             paintPage(painter, page, device);
     }
 }
 
+QColor HostPDFView::desk() const
+{
+    // Darker than a window in the light, and than its paper in the dark.
+    const QColor window = palette().color(QPalette::Window);
+    return window.darker(window.lightness() > 127 ? 112 : 180);
+}
+
 void HostPDFView::paintPage(QPainter &painter, int page, const QRect &deviceArea)
 {
     const PlacedPage place = placed(page);
-    const PagePainter pagePainter(m_tiles);
+    const PagePainter pagePainter(m_tiles, desk());
     const auto &shown = m_pages[static_cast<std::size_t>(page)];
     const auto failure = m_failures.constFind(page);
     const QSizeF viewSize = QSizeF(viewport()->size()) * devicePixelRatio();

@@ -5,9 +5,25 @@
 #include <Tavrin/platform/StringLocalizer.h>
 
 #include <QFontInfo>
+#include <QRegion>
 
 namespace Tavrin
 {
+
+namespace
+{
+
+constexpr double shadowStrength = 16 / 255.0;
+constexpr double edgeStrength = 40 / 255.0;
+
+QColor mixed(const QColor &under, const QColor &over, double strength)
+{
+    const auto mix = [strength](int a, int b) { return qRound(a + (b - a) * strength); };
+    return {mix(under.red(), over.red()), mix(under.green(), over.green()),
+            mix(under.blue(), over.blue())};
+}
+
+} // namespace
 
 QTransform PlacedPage::transform() const
 {
@@ -20,26 +36,41 @@ QTransform PlacedPage::transform() const
             -(up.y - zero.y) * scale,   origin.x() + zero.x * scale, bottom - zero.y * scale};
 }
 
+void PagePainter::paintEdge(QPainter &painter, const PlacedPage &page) const
+{
+    // In solid colours, beside the page alone: blending takes longer than showing a page's picture.
+    const QRect rect = page.rect();
+    QColor color = m_desk;
+    for (int width = 3; width > 0; --width) {
+        color = mixed(color, Qt::black, shadowStrength);
+        for (const QRect &strip :
+             QRegion(rect.adjusted(-width, 1 - width, width, width + 1)) - rect)
+            painter.fillRect(strip, color);
+    }
+    // A shadow isn't seen in the dark, an edge is.
+    if (page.whole.isInverted) {
+        for (const QRect &strip : QRegion(rect.adjusted(-1, -1, 1, 1)) - rect)
+            painter.fillRect(strip, mixed(m_desk, Qt::white, edgeStrength));
+    }
+}
+
 void PagePainter::paintPaper(QPainter &painter, const PlacedPage &page) const
 {
-    const QRect rect = page.rect();
-    for (int width = 3; width > 0; --width)
-        painter.fillRect(rect.adjusted(-width, 1 - width, width, width + 1), QColor(0, 0, 0, 16));
-    // A shadow isn't seen in the dark, an edge is.
-    if (page.whole.isInverted)
-        painter.fillRect(rect.adjusted(-1, -1, 1, 1), QColor(255, 255, 255, 40));
-    painter.fillRect(rect, page.whole.isInverted ? QColor(invertedPaper) : QColor(Qt::white));
+    const QColor paper = page.whole.isInverted ? QColor(invertedPaper) : QColor(Qt::white);
+    painter.fillRect(page.rect(), paper);
 }
 
 void PagePainter::paint(QPainter &painter, const PlacedPage &page, const QRect &area) const
 {
-    paintPaper(painter, page);
+    paintEdge(painter, page);
     const auto tiles = tilesOf(page.whole, area.translated(-page.origin));
     const bool isComplete = std::all_of(tiles.begin(), tiles.end(), [this](const PageTile &tile) {
         return m_tiles.contains(tile);
     });
-    if (!isComplete)
+    if (!isComplete) {
+        paintPaper(painter, page);
         paintStandIns(painter, page, area);
+    }
     for (const PageTile &tile : tiles) {
         const QImage image = m_tiles.image(tile);
         if (!image.isNull())
@@ -69,6 +100,7 @@ void PagePainter::paintStandIns(QPainter &painter, const PlacedPage &page, const
 
 void PagePainter::paintFailure(QPainter &painter, const PlacedPage &page, const QRect &seen) const
 {
+    paintEdge(painter, page);
     paintPaper(painter, page);
     painter.save();
     QFont font = painter.font();

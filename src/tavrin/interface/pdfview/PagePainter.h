@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <QColor>
 #include <QPainter>
 
 #include <vector>
@@ -31,7 +32,8 @@ struct PlacedPage {
 class PagePainter
 {
 public:
-    explicit PagePainter(TileCache &tiles) : m_tiles(tiles) {}
+    /// `desk` is the colour around the pages, on which their shadows fall.
+    PagePainter(TileCache &tiles, const QColor &desk) : m_tiles(tiles), m_desk(desk) {}
 
     /// Paper with its shadow, and what is drawn of the page within `area`.
     void paint(QPainter &painter, const PlacedPage &page, const QRect &area) const;
@@ -42,10 +44,12 @@ public:
                            const std::vector<Rect> &boxes, const QColor &color);
 
 private:
+    void paintEdge(QPainter &painter, const PlacedPage &page) const;
     void paintPaper(QPainter &painter, const PlacedPage &page) const;
     void paintStandIns(QPainter &painter, const PlacedPage &page, const QRect &area) const;
 
     TileCache &m_tiles;
+    QColor m_desk;
 };
 
 } // namespace Tavrin

@@ -9,6 +9,7 @@
 #include <Tavrin/platform/mupdf/MuPDFPainter.h>
 
 #include <algorithm>
+#include <chrono>
 #include <thread>
 #include <utility>
 
@@ -18,10 +19,18 @@ namespace Tavrin
 namespace
 {
 
-std::vector<std::unique_ptr<MuPDFSession>> firstSession(const MuPDFSource &source)
+using Clock = std::chrono::steady_clock;
+/// Waiting for a lock by the steady clock is a call that thread sanitizers don't know.
+using WaitingClock = std::chrono::system_clock;
+
+/// Adds the time that it took.
+std::vector<std::unique_ptr<MuPDFSession>> firstSession(const MuPDFSource &source,
+                                                        Clock::duration &time)
 {
+    const auto begin = Clock::now();
     std::vector<std::unique_ptr<MuPDFSession>> sessions;
     sessions.push_back(std::make_unique<MuPDFSession>(source));
+    time += Clock::now() - begin;
     return sessions;
 }
 
@@ -29,35 +38,66 @@ std::vector<std::unique_ptr<MuPDFSession>> firstSession(const MuPDFSource &sourc
 
 MuPDFDocument::MuPDFDocument(MuPDFSource source)
     : m_source(std::move(source)),
-      m_sessions(firstSession(m_source)),
+      m_sessions(firstSession(m_source, m_openingTime)),
       m_first(*m_sessions.front()),
       m_sessionLimit(std::max(1U, std::thread::hardware_concurrency())),
       m_objects(*m_sessions.front())
 {
+    const auto begin = Clock::now();
     m_pageCount = MuPDFPageTree::repair(first());
+    m_openingTime += Clock::now() - begin;
 }
 
 MuPDFDocument::~MuPDFDocument() = default;
 
 MuPDFDocument::Lease MuPDFDocument::anySession() const
 {
-    const std::scoped_lock pool(m_poolMutex);
-    for (const auto &session : m_sessions) {
-        std::unique_lock lock(session->mutex(), std::try_to_lock);
-        if (lock.owns_lock())
-            return {*session, std::move(lock)};
+    bool mayOpen = false;
+    const MuPDFSession *busy = nullptr;
+    {
+        const std::scoped_lock pool(m_poolMutex);
+        for (const auto &session : m_sessions) {
+            std::unique_lock lock(session->mutex(), std::try_to_lock);
+            if (lock.owns_lock())
+                return {*session, std::move(lock)};
+        }
+        busy = m_sessions.back().get();
+        mayOpen = m_sessions.size() < m_sessionLimit;
     }
-    if (m_sessions.size() < m_sessionLimit) {
+    if (!mayOpen)
+        return {*busy, std::unique_lock(busy->mutex())};
+    // Most of what is done with a page is done sooner than the file is opened once more.
+    std::unique_lock lock(busy->mutex(), WaitingClock::now() + m_openingTime);
+    if (lock.owns_lock())
+        return {*busy, std::move(lock)};
+    const MuPDFSession &last = openedSession();
+    return {last, std::unique_lock(last.mutex())};
+}
+
+const MuPDFSession &MuPDFDocument::openedSession() const
+{
+    // One at a time, so that there are no more than the limit; the pool serves on meanwhile.
+    const std::scoped_lock opening(m_openingMutex);
+    std::unique_ptr<MuPDFSession> session;
+    if (sessionCount() < m_sessionLimit) {
         try {
-            auto session = std::make_unique<MuPDFSession>(m_source);
+            session = std::make_unique<MuPDFSession>(m_source);
             MuPDFPageTree::repair(*session);
-            m_sessions.push_back(std::move(session));
         } catch (const HostPDFError &) {
             // The file has gone or changed meanwhile; what is open serves on.
+            session.reset();
         }
     }
-    const MuPDFSession &last = *m_sessions.back();
-    return {last, std::unique_lock(last.mutex())};
+    const std::scoped_lock pool(m_poolMutex);
+    if (session)
+        m_sessions.push_back(std::move(session));
+    return *m_sessions.back();
+}
+
+std::size_t MuPDFDocument::sessionCount() const
+{
+    const std::scoped_lock pool(m_poolMutex);
+    return m_sessions.size();
 }
 
 std::optional<PageGeometry> MuPDFDocument::pageGeometry(int page) const

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <chrono>
 #include <memory>
 #include <mutex>
 #include <vector>
@@ -39,9 +40,12 @@ private:
     /// A session of one's own, locked.
     struct Lease {
         const MuPDFSession &session;
-        std::unique_lock<std::mutex> lock;
+        std::unique_lock<std::timed_mutex> lock;
     };
     Lease anySession() const;
+    /// Opens the file once more if that may be; the session opened last.
+    const MuPDFSession &openedSession() const;
+    std::size_t sessionCount() const;
     const MuPDFSession &first() const { return m_first; }
     /// Under the lock of the first session.
     const MuPDFDestinations &destinations() const;
@@ -49,6 +53,10 @@ private:
 
     MuPDFSource m_source;
     int m_pageCount = 0;
+    /// How long it took to open the file.
+    std::chrono::steady_clock::duration m_openingTime{};
+    mutable std::mutex m_openingMutex;
+    /// Of the list of sessions, which only grows.
     mutable std::mutex m_poolMutex;
     mutable std::vector<std::unique_ptr<MuPDFSession>> m_sessions;
     /// By itself, since the list of sessions moves when it grows.

@@ -10,7 +10,7 @@ namespace Tavrin
 namespace
 {
 
-using Lock = std::scoped_lock<std::mutex>;
+using Lock = std::scoped_lock<std::timed_mutex>;
 
 } // namespace
 

@@ -40,7 +40,7 @@ public:
 
     fz_context *context() const { return m_context; }
     pdf_document *document() const { return m_document; }
-    std::mutex &mutex() const { return m_mutex; }
+    std::timed_mutex &mutex() const { return m_mutex; }
 
     /// Runs a call group and tells whether the engine got through it. The engine leaves failing
     /// code by longjmp, past all destructors: the group may hold plain C data only.
@@ -76,7 +76,7 @@ private:
     std::unique_ptr<std::FILE, FileCloser> m_file;
     fz_context *m_context = nullptr;
     pdf_document *m_document = nullptr;
-    mutable std::mutex m_mutex;
+    mutable std::timed_mutex m_mutex;
 };
 
 } // namespace Tavrin
