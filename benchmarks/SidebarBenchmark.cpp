@@ -23,7 +23,7 @@
 #include <Tavrin/interface/detail/SpecPDFSearchViewController.h>
 #include <support/PDFBuilder.h>
 
-#include "support/StallMeter.h"
+#include <support/StallMeter.h>
 
 namespace Tavrin::Benchmarks
 {
@@ -41,13 +41,6 @@ constexpr int pageCount = 500;
 constexpr int chapterCount = 100;
 /// How long a summary takes to compute, in milliseconds: as in a document with long sections.
 constexpr int summaryTime = 3;
-
-void pause(int milliseconds)
-{
-    QEventLoop loop;
-    QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
-    loop.exec();
-}
 
 QString titleOf(int i)
 {
@@ -78,12 +71,6 @@ std::shared_ptr<PDFSpecification> withEntries()
         specification->add(entry);
     }
     return specification;
-}
-
-double median(std::vector<double> values)
-{
-    std::sort(values.begin(), values.end());
-    return values[values.size() / 2];
 }
 
 void press(QWidget &field, QChar letter)

@@ -6,31 +6,12 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <ctime>
 #include <vector>
+
+#include <support/Timing.h>
 
 namespace Tavrin::Benchmarks
 {
-
-inline double milliseconds(const QElapsedTimer &timer)
-{
-    return double(timer.nsecsElapsed()) / 1e6;
-}
-
-/// What this thread has computed so far, in milliseconds.
-inline double computed()
-{
-    timespec time{};
-    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
-    return double(time.tv_sec) * 1e3 + double(time.tv_nsec) / 1e6;
-}
-
-/// Of values of which there are any.
-inline double at99(std::vector<double> values)
-{
-    std::sort(values.begin(), values.end());
-    return values[values.size() * 99 / 100];
-}
 
 /// Asks the event loop for a turn every millisecond, and notes how long each takes to come, and
 /// how much of that is the work of the thread itself: the rest it slept, or others had the machine.
@@ -50,11 +31,12 @@ public:
         m_timer.start(1);
     }
     double workAt99() const { return at99(m_works); }
+    double longestWork() const { return *std::max_element(m_works.begin(), m_works.end()); }
     void report(const char *what) const
     {
         std::printf("%-28s turns %5.2f ms, worst %5.2f; own work %5.2f ms, worst %5.2f\n", what,
                     at99(m_turns), *std::max_element(m_turns.begin(), m_turns.end()), at99(m_works),
-                    *std::max_element(m_works.begin(), m_works.end()));
+                    longestWork());
     }
 
 private:
