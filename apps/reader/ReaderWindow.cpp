@@ -396,6 +396,10 @@ void ReaderWindow::showCoverage(const ReferenceCoverage &references)
     if (!requireSpecification(audit))
         return;
     m_manager.showSpecCoverage(audit.references(), audit.specification());
+    // The marks may begin hundreds of pages into the document.
+    const auto detail = std::dynamic_pointer_cast<SpecDetailViewController>(m_detail->controller());
+    if (detail)
+        detail->setEntry(audit.firstEntry());
     raise();
     activateWindow();
 }

@@ -66,10 +66,13 @@ ReferenceAudit::ReferenceAudit(EntryFinder &finder, const ReferenceCoverage &ref
     if (!m_specification)
         return;
     for (const Resolved &one : resolved) {
-        if (!one.entry)
+        if (!one.entry) {
             m_references.push_back(one.reference);
-        else if (one.entry->specification() == m_specification)
+        } else if (one.entry->specification() == m_specification) {
             m_references.push_back({one.entry->label(), one.reference.reference});
+            if (!m_firstEntry)
+                m_firstEntry = one.entry;
+        }
     }
 }
 

@@ -22,6 +22,8 @@ public:
     /// Those that lead into the specification, as spec URLs, and those that lead nowhere, as they
     /// are: an audit tells of them.
     const ReferenceCoverage &references() const { return m_references; }
+    /// The first one's that leads into the specification; null without a specification.
+    const std::shared_ptr<SpecificationEntry> &firstEntry() const { return m_firstEntry; }
 
     /// A browser of them, with a column for what refers.
     ViewControllerPtr browser() const;
@@ -32,6 +34,7 @@ public:
 private:
     std::shared_ptr<PDFSpecification> m_specification;
     ReferenceCoverage m_references;
+    std::shared_ptr<SpecificationEntry> m_firstEntry;
 };
 
 } // namespace Tavrin::Reader

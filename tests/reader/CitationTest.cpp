@@ -140,6 +140,8 @@ TEST_F(CitationTest, AuditsWhatIsCited)
         std::dynamic_pointer_cast<SpecDetailViewController>(window.detailPane().controller());
     ASSERT_TRUE(detail);
     EXPECT_EQ(detail->referenceCoverage()->size(), 3U);
+    ASSERT_TRUE(detail->entry());
+    EXPECT_EQ(detail->entry()->label(), u"2"_s) << "one begins to read at the first mark";
 }
 
 TEST_F(CitationTest, AuditsAFileOfReferences)

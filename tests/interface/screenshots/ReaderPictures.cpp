@@ -98,7 +98,9 @@ void takeCitations(Studio &studio)
     }
     form->setWindowModified(false);
     scene.window().showCoverage(form->references());
-    Studio::waitFor([&scene] { return !scene.window().findChild<Sheet *>(); });
+    const auto detail =
+        std::dynamic_pointer_cast<SpecPDFViewController>(scene.window().detailPane().controller());
+    Studio::waitFor([&detail] { return detail->viewer()->coverageHighlights().has_value(); });
     scene.shoot(u"reader-coverage"_s);
 }
 
