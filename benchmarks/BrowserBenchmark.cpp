@@ -10,11 +10,11 @@
 #include <algorithm>
 #include <cstdio>
 #include <functional>
-#include <string_view>
 #include <vector>
 
 #include <Tavrin/interface/audit/BrowserArrayController.h>
 #include <Tavrin/interface/audit/BrowserTableView.h>
+#include <support/WindowBenchmark.h>
 
 namespace Tavrin::Benchmarks
 {
@@ -183,17 +183,14 @@ Figure measureSorting(Tables &tables)
 int main(int argc, char **argv)
 {
     using namespace Tavrin::Benchmarks;
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QApplication application(argc, argv);
-    const bool checks = std::any_of(argv, argv + argc, [](const char *argument) {
-        return std::string_view(argument) == "--check";
+    return runWindowBenchmark(argc, argv, [] {
+        std::printf("audit browser, 5,000 rows, worst / toolkit's own model and proxy:\n");
+        Tables tables;
+        constexpr double searchLimit = 30;
+        constexpr double sortLimit = 100;
+        const bool isSearchWithin =
+            measureSearch(tables).report("a keystroke of a search", searchLimit);
+        const bool isSortWithin = measureSorting(tables).report("sorting by a column", sortLimit);
+        return isSearchWithin && isSortWithin;
     });
-    std::printf("audit browser, 5,000 rows, worst / toolkit's own model and proxy:\n");
-    Tables tables;
-    constexpr double searchLimit = 30;
-    constexpr double sortLimit = 100;
-    const bool isSearchWithin =
-        measureSearch(tables).report("a keystroke of a search", searchLimit);
-    const bool isSortWithin = measureSorting(tables).report("sorting by a column", sortLimit);
-    return checks && !(isSearchWithin && isSortWithin) ? 1 : 0;
 }

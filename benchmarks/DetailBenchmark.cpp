@@ -5,12 +5,8 @@
 // the main thread is kept from its events while the places of 500 references are computed.
 #include <QApplication>
 #include <QEventLoop>
-#include <QSettings>
-#include <QTemporaryDir>
 #include <QThreadPool>
 #include <QUrl>
-
-#include <string_view>
 
 #include <Tavrin/interface/detail/EntryHighlightPDFView.h>
 #include <Tavrin/interface/detail/SpecPDFViewController.h>
@@ -22,6 +18,7 @@
 #include <support/Manual.h>
 #include <support/RatioBenchmark.h>
 #include <support/StallMeter.h>
+#include <support/WindowBenchmark.h>
 
 namespace Tavrin::Benchmarks
 {
@@ -183,20 +180,13 @@ int main(int argc, char **argv)
 {
     using namespace Tavrin::Benchmarks;
     using namespace Qt::StringLiterals;
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QApplication application(argc, argv);
-    QCoreApplication::setApplicationName(u"tavrin_detail_benchmark"_s);
-    const QTemporaryDir settings;
-    QSettings::setDefaultFormat(QSettings::IniFormat);
-    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, settings.path());
-    const bool checks = std::any_of(argv, argv + argc, [](const char *argument) {
-        return std::string_view(argument) == "--check";
+    return runWindowBenchmark(argc, argv, [] {
+        const QString path = corpusDocument(u"cplusplus.pdf"_s);
+        if (path.isEmpty())
+            return true;
+        const bool isOpeningWithin = measureOpening(path);
+        measureClicks(path);
+        const bool isCoverageWithin = measureCoverage(path);
+        return isOpeningWithin && isCoverageWithin;
     });
-    const QString path = corpusDocument(u"cplusplus.pdf"_s);
-    if (path.isEmpty())
-        return 0;
-    const bool isOpeningWithin = measureOpening(path);
-    measureClicks(path);
-    const bool isCoverageWithin = measureCoverage(path);
-    return checks && !(isOpeningWithin && isCoverageWithin) ? 1 : 0;
 }

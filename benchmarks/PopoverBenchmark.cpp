@@ -7,12 +7,9 @@
 #include <QFrame>
 #include <QLabel>
 #include <QPushButton>
-#include <QSettings>
-#include <QTemporaryDir>
 #include <QThreadPool>
 
 #include <cstdio>
-#include <string_view>
 
 #include <Tavrin/interface/summary/SpecEntrySummaryViewController.h>
 #include <Tavrin/interface/toolkit/Popover.h>
@@ -21,6 +18,7 @@
 #include <support/Manual.h>
 #include <support/RatioBenchmark.h>
 #include <support/StallMeter.h>
+#include <support/WindowBenchmark.h>
 
 namespace Tavrin::Benchmarks
 {
@@ -128,18 +126,8 @@ int main(int argc, char **argv)
 {
     using namespace Tavrin::Benchmarks;
     using namespace Qt::StringLiterals;
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QApplication application(argc, argv);
-    QCoreApplication::setApplicationName(u"tavrin_popover_benchmark"_s);
-    const QTemporaryDir settings;
-    QSettings::setDefaultFormat(QSettings::IniFormat);
-    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, settings.path());
-    const bool checks = std::any_of(argv, argv + argc, [](const char *argument) {
-        return std::string_view(argument) == "--check";
+    return runWindowBenchmark(argc, argv, [] {
+        const QString path = corpusDocument(u"cplusplus.pdf"_s);
+        return path.isEmpty() || report(measure(Manual(path)));
     });
-    const QString path = corpusDocument(u"cplusplus.pdf"_s);
-    if (path.isEmpty())
-        return 0;
-    const bool isWithin = report(measure(Manual(path)));
-    return checks && !isWithin ? 1 : 0;
 }

@@ -8,15 +8,12 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QScrollBar>
-#include <QSettings>
 #include <QSortFilterProxyModel>
 #include <QStringListModel>
-#include <QTemporaryDir>
 #include <QTreeView>
 
 #include <algorithm>
 #include <cstdio>
-#include <string_view>
 
 #include <Tavrin/interface/detail/SpecPDFOutlineViewController.h>
 #include <Tavrin/interface/detail/SpecPDFSearchResult.h>
@@ -24,6 +21,7 @@
 #include <support/PDFBuilder.h>
 
 #include <support/StallMeter.h>
+#include <support/WindowBenchmark.h>
 
 namespace Tavrin::Benchmarks
 {
@@ -258,16 +256,9 @@ bool measureOutline()
 int main(int argc, char **argv)
 {
     using namespace Tavrin::Benchmarks;
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QApplication application(argc, argv);
-    QCoreApplication::setApplicationName(QStringLiteral("tavrin_sidebar_benchmark"));
-    const QTemporaryDir settings;
-    QSettings::setDefaultFormat(QSettings::IniFormat);
-    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, settings.path());
-    const bool checks = std::any_of(argv, argv + argc, [](const char *argument) {
-        return std::string_view(argument) == "--check";
+    return runWindowBenchmark(argc, argv, [] {
+        const bool isSearchWithin = measureSearch();
+        const bool isOutlineWithin = measureOutline();
+        return isSearchWithin && isOutlineWithin;
     });
-    const bool isSearchWithin = measureSearch();
-    const bool isOutlineWithin = measureOutline();
-    return checks && !(isSearchWithin && isOutlineWithin) ? 1 : 0;
 }

@@ -10,13 +10,13 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <string_view>
 #include <vector>
 
 #include <Tavrin/interface/pdfview/HostPDFView.h>
 
 #include <support/RatioBenchmark.h>
 #include <support/StallMeter.h>
+#include <support/WindowBenchmark.h>
 
 namespace Tavrin::Benchmarks
 {
@@ -99,14 +99,8 @@ int main(int argc, char **argv)
 {
     using namespace Tavrin::Benchmarks;
     using namespace Qt::StringLiterals;
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QApplication application(argc, argv);
-    const bool checks = std::any_of(argv, argv + argc, [](const char *argument) {
-        return std::string_view(argument) == "--check";
+    return runWindowBenchmark(argc, argv, [] {
+        const QString path = corpusDocument(u"cplusplus.pdf"_s);
+        return path.isEmpty() || measureStalls(path);
     });
-    const QString path = corpusDocument(u"cplusplus.pdf"_s);
-    if (path.isEmpty())
-        return 0;
-    const bool isWithin = measureStalls(path);
-    return checks && !isWithin ? 1 : 0;
 }
