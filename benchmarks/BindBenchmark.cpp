@@ -7,7 +7,7 @@
 
 #include <stdexcept>
 
-#include <Tavrin/enhance/MapDrafter.h>
+#include <Tavrin/drafting/MapDrafter.h>
 #include <Tavrin/pdfspec/PDFSpecification.h>
 
 #include <support/BareEngine.h>

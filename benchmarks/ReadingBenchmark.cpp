@@ -9,7 +9,7 @@
 #include <functional>
 #include <thread>
 
-#include <Tavrin/enhance/MapDrafter.h>
+#include <Tavrin/drafting/MapDrafter.h>
 #include <Tavrin/pdfspec/PDFSpecificationEntry.h>
 
 #include <support/BareEngine.h>

@@ -15,9 +15,9 @@
 #include <algorithm>
 #include <cstdio>
 
-#include <Tavrin/interface/detail/SpecPDFOutlineViewController.h>
-#include <Tavrin/interface/detail/SpecPDFSearchResult.h>
-#include <Tavrin/interface/detail/SpecPDFSearchViewController.h>
+#include <Tavrin/interface/sidebars/SpecPDFOutlineViewController.h>
+#include <Tavrin/interface/sidebars/SpecPDFSearchResult.h>
+#include <Tavrin/interface/sidebars/SpecPDFSearchViewController.h>
 #include <support/PDFBuilder.h>
 
 #include <support/StallMeter.h>

@@ -8,12 +8,24 @@ set(CMAKE_CXX_VISIBILITY_PRESET hidden)
 set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 
+# What was compiled once is not compiled again, in whichever clone of the tree: paths count from its
+# root, and headers by what they hold.
+find_program(TAVRIN_CCACHE ccache DOC "Keeps what was compiled; empty for none")
+if(TAVRIN_CCACHE)
+  foreach(language IN ITEMS C CXX)
+    set(CMAKE_${language}_COMPILER_LAUNCHER "${CMAKE_COMMAND}" -E env
+      "CCACHE_BASEDIR=${PROJECT_SOURCE_DIR}" CCACHE_NOHASHDIR=1
+      CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime
+      "${TAVRIN_CCACHE}")
+  endforeach()
+  if(CMAKE_CXX_COMPILER_ID MATCHES "Clang")
+    # A header that was compiled elsewhere is as good, whatever its age.
+    add_compile_options("SHELL:-Xclang -fno-pch-timestamp")
+  endif()
+endif()
+
 add_library(tavrin_warnings INTERFACE)
 target_compile_options(tavrin_warnings INTERFACE -Wall -Wextra -Wconversion -Wshadow)
-if(CMAKE_CXX_COMPILER_ID MATCHES "Clang")
-  # Headers are reached through links to their folders, which clang takes for a difference in case.
-  target_compile_options(tavrin_warnings INTERFACE -Wno-nonportable-include-path)
-endif()
 if(TAVRIN_WERROR)
   target_compile_options(tavrin_warnings INTERFACE -Werror)
 endif()

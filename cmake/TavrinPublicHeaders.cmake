@@ -3,7 +3,7 @@
 # installed; everything else of the folder is private.
 function(tavrin_public_headers)
   cmake_path(RELATIVE_PATH CMAKE_CURRENT_SOURCE_DIR
-    BASE_DIRECTORY "${PROJECT_SOURCE_DIR}/src/tavrin" OUTPUT_VARIABLE folder)
+    BASE_DIRECTORY "${PROJECT_SOURCE_DIR}/src/Tavrin" OUTPUT_VARIABLE folder)
   foreach(header IN LISTS ARGN)
     cmake_path(GET header PARENT_PATH subfolder)
     cmake_path(SET destination NORMALIZE "${CMAKE_INSTALL_INCLUDEDIR}/Tavrin/${folder}/${subfolder}")

@@ -3,7 +3,7 @@
 #include "FuzzedPDF.h"
 #include "Fuzzing.h"
 
-#include <Tavrin/enhance/MapDrafter.h>
+#include <Tavrin/drafting/MapDrafter.h>
 #include <support/MapBuilder.h>
 
 using namespace Tavrin;

@@ -4,7 +4,7 @@
 #include "FuzzedPDF.h"
 #include "Fuzzing.h"
 
-#include <Tavrin/enhance/MapDrafter.h>
+#include <Tavrin/drafting/MapDrafter.h>
 #include <Tavrin/enhance/PDFDestinationApproximator.h>
 #include <Tavrin/pdfspec/PDFSpecificationEntry.h>
 #include <support/MapBuilder.h>

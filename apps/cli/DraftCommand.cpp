@@ -3,7 +3,7 @@
 
 #include <QFileInfo>
 
-#include <Tavrin/enhance/MapDrafter.h>
+#include <Tavrin/drafting/MapDrafter.h>
 #include <Tavrin/platform/StringLocalizer.h>
 
 #include "CommandLineError.h"

@@ -4,8 +4,8 @@
 #include <optional>
 #include <vector>
 
+#include <Tavrin/pdf/HostPDFPage.h>
 #include <Tavrin/pdf/LineFinder.h>
-#include <Tavrin/platform/HostPDFPage.h>
 #include <Tavrin/platform/StringLocalizer.h>
 
 namespace Tavrin::Cli::TitleCheck

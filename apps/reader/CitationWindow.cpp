@@ -13,9 +13,9 @@
 #include <QVBoxLayout>
 
 #include <Tavrin/interface/citing/SpecEntryTokenFieldDelegate.h>
+#include <Tavrin/interface/tokens/TokenField.h>
 #include <Tavrin/interface/toolkit/SegmentedControl.h>
 #include <Tavrin/interface/toolkit/Sheet.h>
-#include <Tavrin/interface/toolkit/TokenField.h>
 #include <Tavrin/platform/StringLocalizer.h>
 
 #include "CitationModel.h"

@@ -9,7 +9,7 @@
 
 #include <algorithm>
 
-#include <Tavrin/interface/citing/EntryClipboard.h>
+#include <Tavrin/interface/clipboard/EntryClipboard.h>
 #include <Tavrin/platform/StringLocalizer.h>
 
 #include "SuggestionDelegate.h"

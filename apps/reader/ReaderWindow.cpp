@@ -16,7 +16,7 @@
 #include <functional>
 #include <iterator>
 
-#include <Tavrin/interface/citing/EntryClipboard.h>
+#include <Tavrin/interface/clipboard/EntryClipboard.h>
 #include <Tavrin/interface/files/AuxiliaryFileImport.h>
 #include <Tavrin/interface/summary/SpecEntrySummaryViewController.h>
 #include <Tavrin/interface/toolkit/Sheet.h>

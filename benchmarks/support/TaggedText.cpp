@@ -5,9 +5,9 @@
 #include <QHash>
 #include <QTextStream>
 
-#include <Tavrin/platform/english/Lemmatizer.h>
-#include <Tavrin/platform/english/SentenceTagger.h>
-#include <Tavrin/platform/english/WordClasses.h>
+#include <Tavrin/english/Lemmatizer.h>
+#include <Tavrin/english/SentenceTagger.h>
+#include <Tavrin/english/WordClasses.h>
 
 namespace Tavrin::Benchmarks
 {

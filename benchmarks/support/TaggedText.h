@@ -6,7 +6,7 @@
 #include <array>
 #include <vector>
 
-#include <Tavrin/platform/english/EnglishModel.h>
+#include <Tavrin/english/EnglishModel.h>
 
 namespace Tavrin::Benchmarks
 {

@@ -5,7 +5,7 @@
 
 #include <stdexcept>
 
-#include <Tavrin/enhance/MapDrafter.h>
+#include <Tavrin/drafting/MapDrafter.h>
 
 #include <support/BareEngine.h>
 

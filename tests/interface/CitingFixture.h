@@ -5,8 +5,8 @@
 #include <QVBoxLayout>
 
 #include <Tavrin/interface/citing/SpecEntryTokenFieldDelegate.h>
+#include <Tavrin/interface/tokens/TokenField.h>
 #include <Tavrin/interface/toolkit/Sheet.h>
-#include <Tavrin/interface/toolkit/TokenField.h>
 
 #include "SharedManagerFixture.h"
 

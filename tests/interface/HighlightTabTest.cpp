@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 // The tabs of the sidebar, and what is remembered of them.
-#include <Tavrin/interface/detail/HighlightTabViewController.h>
+#include <Tavrin/interface/sidebars/HighlightTabViewController.h>
 
 #include <QAbstractButton>
 #include <QApplication>

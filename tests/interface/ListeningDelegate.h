@@ -3,7 +3,7 @@
 
 #include <vector>
 
-#include <Tavrin/interface/detail/SpecPDFSourceList.h>
+#include <Tavrin/interface/sidebars/SpecPDFSourceList.h>
 #include <pdfspec/PDFFixture.h>
 
 namespace Tavrin::Testing

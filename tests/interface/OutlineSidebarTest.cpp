@@ -6,8 +6,8 @@
 
 #include <gmock/gmock.h>
 
-#include <Tavrin/interface/detail/OutlineItem.h>
-#include <Tavrin/interface/detail/SpecPDFOutlineViewController.h>
+#include <Tavrin/interface/sidebars/OutlineItem.h>
+#include <Tavrin/interface/sidebars/SpecPDFOutlineViewController.h>
 #include <pdfspec/ReadingFixture.h>
 #include <support/HostilePDF.h>
 

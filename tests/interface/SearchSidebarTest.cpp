@@ -7,10 +7,10 @@
 
 #include <atomic>
 
-#include <Tavrin/interface/citing/EntryClipboard.h>
-#include <Tavrin/interface/detail/SpecPDFSearchCell.h>
-#include <Tavrin/interface/detail/SpecPDFSearchResult.h>
-#include <Tavrin/interface/detail/SpecPDFSearchViewController.h>
+#include <Tavrin/interface/clipboard/EntryClipboard.h>
+#include <Tavrin/interface/sidebars/SpecPDFSearchCell.h>
+#include <Tavrin/interface/sidebars/SpecPDFSearchResult.h>
+#include <Tavrin/interface/sidebars/SpecPDFSearchViewController.h>
 #include <Tavrin/interface/toolkit/SerialBackground.h>
 #include <Tavrin/platform/BackgroundPool.h>
 

@@ -7,9 +7,9 @@
 #include <thread>
 
 #include <Tavrin/interface/summary/SpecEntrySummaryViewController.h>
+#include <Tavrin/interface/tokens/TokenCompleter.h>
+#include <Tavrin/interface/tokens/TokenEditor.h>
 #include <Tavrin/interface/toolkit/Popover.h>
-#include <Tavrin/interface/toolkit/TokenCompleter.h>
-#include <Tavrin/interface/toolkit/TokenEditor.h>
 
 #include "CitingFixture.h"
 

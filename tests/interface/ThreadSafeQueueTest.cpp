@@ -7,7 +7,7 @@
 
 #include <gmock/gmock.h>
 
-#include <Tavrin/interface/detail/ThreadSafeQueue.h>
+#include <Tavrin/interface/sidebars/ThreadSafeQueue.h>
 
 using namespace Tavrin;
 

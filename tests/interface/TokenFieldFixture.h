@@ -12,10 +12,10 @@
 
 #include <gmock/gmock.h>
 
-#include <Tavrin/interface/toolkit/TokenCompleter.h>
-#include <Tavrin/interface/toolkit/TokenEditor.h>
-#include <Tavrin/interface/toolkit/TokenField.h>
-#include <Tavrin/interface/toolkit/TokenFieldDelegate.h>
+#include <Tavrin/interface/tokens/TokenCompleter.h>
+#include <Tavrin/interface/tokens/TokenEditor.h>
+#include <Tavrin/interface/tokens/TokenField.h>
+#include <Tavrin/interface/tokens/TokenFieldDelegate.h>
 
 namespace Tavrin::Testing
 {

@@ -8,7 +8,7 @@
 #include <Tavrin/interface/pdfview/TextSelection.h>
 #include <Tavrin/interface/pdfview/TileCache.h>
 #include <Tavrin/interface/pdfview/ViewHistory.h>
-#include <Tavrin/platform/HostPDFDocument.h>
+#include <Tavrin/pdf/HostPDFDocument.h>
 #include <support/PDFBuilder.h>
 
 #include <limits>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include <Tavrin/enhance/MapDrafter.h>
+#include <Tavrin/drafting/MapDrafter.h>
 #include <support/Corpus.h>
 
 #include <algorithm>

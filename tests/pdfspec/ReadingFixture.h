@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <Tavrin/platform/HostPDFPage.h>
+#include <Tavrin/pdf/HostPDFPage.h>
 
 #include "PDFFixture.h"
 

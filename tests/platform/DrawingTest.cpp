@@ -6,7 +6,7 @@
 
 #include <gmock/gmock.h>
 
-#include <Tavrin/platform/HostPDFDocument.h>
+#include <Tavrin/pdf/HostPDFDocument.h>
 #include <support/PDFBuilder.h>
 
 using namespace Tavrin;

@@ -7,9 +7,9 @@
 
 #include <Tavrin/interface/audit/SpecAuditBrowserController.h>
 #include <Tavrin/interface/detail/SpecDetailViewController.h>
+#include <Tavrin/interface/tokens/TokenCompleter.h>
+#include <Tavrin/interface/tokens/TokenField.h>
 #include <Tavrin/interface/toolkit/Sheet.h>
-#include <Tavrin/interface/toolkit/TokenCompleter.h>
-#include <Tavrin/interface/toolkit/TokenField.h>
 #include <reader/CitationModel.h>
 #include <reader/CitationWindow.h>
 #include <reader/ControllerPane.h>

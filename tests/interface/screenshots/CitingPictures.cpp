@@ -8,8 +8,8 @@
 
 #include <Tavrin/interface/citing/SpecEntrySelectionViewController.h>
 #include <Tavrin/interface/detail/EntryHighlightPDFView.h>
-#include <Tavrin/interface/toolkit/TokenCompleter.h>
-#include <Tavrin/interface/toolkit/TokenEditor.h>
+#include <Tavrin/interface/tokens/TokenCompleter.h>
+#include <Tavrin/interface/tokens/TokenEditor.h>
 #include <interface/CitingFixture.h>
 
 #include "Pictures.h"

@@ -5,9 +5,9 @@
 
 #include <Tavrin/interface/detail/DetailView.h>
 #include <Tavrin/interface/detail/EntryHighlightPDFView.h>
-#include <Tavrin/interface/detail/HighlightTabViewController.h>
 #include <Tavrin/interface/detail/SpecPDFViewController.h>
 #include <Tavrin/interface/detail/SpecPDFViewer.h>
+#include <Tavrin/interface/sidebars/HighlightTabViewController.h>
 #include <Tavrin/interface/toolkit/ProgressSheet.h>
 #include <Tavrin/pdfspec/PDFSpecification.h>
 #include <Tavrin/platform/BackgroundPool.h>

@@ -4,9 +4,9 @@
 #include <QSettings>
 #include <QTreeView>
 
-#include <Tavrin/interface/detail/SpecPDFOutlineViewController.h>
-#include <Tavrin/interface/detail/SpecPDFSearchResult.h>
-#include <Tavrin/interface/detail/SpecPDFSearchViewController.h>
+#include <Tavrin/interface/sidebars/SpecPDFOutlineViewController.h>
+#include <Tavrin/interface/sidebars/SpecPDFSearchResult.h>
+#include <Tavrin/interface/sidebars/SpecPDFSearchViewController.h>
 #include <Tavrin/interface/toolkit/SerialBackground.h>
 #include <interface/SummaryFixture.h>
 #include <support/FinishTasks.h>
