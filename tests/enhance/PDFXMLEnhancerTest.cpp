@@ -151,12 +151,14 @@ TEST_F(PDFXMLEnhancerTest, takesLinksFromEntriesThatWereNotPaired)
 TEST_F(PDFXMLEnhancerTest, findsTheNearestLinkOfAKind)
 {
     const auto enhancer = enhanced();
-    using Type = SpecificationEntryType;
-    EXPECT_EQ(enhancer->closestInternalLink(600, 1, Type::Section), u"ondry_ref_SLKb1"_s);
-    EXPECT_EQ(enhancer->closestInternalLink(618, 1, Type::Section), u"ondry_ref_SLKa1"_s);
-    EXPECT_EQ(enhancer->closestInternalLink(0, 2, Type::Figure), u"ondry_ref_FLK"_s);
-    EXPECT_EQ(enhancer->closestInternalLink(600, 1, Type::Table), std::nullopt);
-    EXPECT_DEATH(enhancer->closestInternalLink(0, 99, Type::Section), "page");
+    EXPECT_EQ(enhancer->closestInternalLink(600, 1, SpecificationEntryType::Section),
+              u"ondry_ref_SLKb1"_s);
+    EXPECT_EQ(enhancer->closestInternalLink(618, 1, SpecificationEntryType::Section),
+              u"ondry_ref_SLKa1"_s);
+    EXPECT_EQ(enhancer->closestInternalLink(0, 2, SpecificationEntryType::Figure),
+              u"ondry_ref_FLK"_s);
+    EXPECT_EQ(enhancer->closestInternalLink(600, 1, SpecificationEntryType::Table), std::nullopt);
+    EXPECT_DEATH(enhancer->closestInternalLink(0, 99, SpecificationEntryType::Section), "page");
 }
 
 TEST_F(PDFXMLEnhancerTest, rewritesTheLinkOfAnElement)

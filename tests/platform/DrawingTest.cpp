@@ -16,10 +16,10 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-constexpr QRgb red = qRgb(255, 0, 0);
+constexpr QRgb pureRed = qRgb(255, 0, 0);
 constexpr QRgb white = qRgb(255, 255, 255);
 
-/// A page of 200 × 100 points whose crop box begins at (20, 10), with a red square of 10 points
+/// A page of 200 × 100 points whose crop box begins at (20, 10), with a pureRed square of 10 points
 /// in the lower left corner of the crop box.
 std::shared_ptr<HostPDFDocument> document(int rotation)
 {
@@ -27,7 +27,7 @@ std::shared_ptr<HostPDFDocument> document(int rotation)
     pdf.addPageWithBox(Rect{{0, 0}, {200, 100}})
         .cropBox(Rect{{20, 10}, {160, 80}})
         .rotate(rotation)
-        .fill(Rect{{20, 10}, {10, 10}}, red)
+        .fill(Rect{{20, 10}, {10, 10}}, pureRed)
         .annotation("<< /Type /Annot /Subtype /Square /Rect [100 50 120 70] /C [0 0 1] "
                     "/IC [0 0 1] >>");
     return HostPDFDocument::open(pdf.build());
@@ -54,7 +54,7 @@ TEST(Drawing, ShowsThePageAsItIsHeld)
         const auto page = pdf->page(0);
         const QImage image = page->draw(page->bounds(PDFBox::Crop));
         ASSERT_EQ(image.size(), size) << rotation;
-        EXPECT_EQ(pixel(image, corner.x(), corner.y()), red) << rotation;
+        EXPECT_EQ(pixel(image, corner.x(), corner.y()), pureRed) << rotation;
         EXPECT_EQ(pixel(image, size.width() / 2, size.height() / 2), white) << rotation;
     }
 }
@@ -66,7 +66,8 @@ TEST(Drawing, CutsAnAreaAtAScale)
     const QImage image =
         page->draw(Rect{{25, 15}, {10, 10}}, {.scale = 3, .background = Qt::green});
     ASSERT_EQ(image.size(), QSize(30, 30));
-    EXPECT_EQ(pixel(image, 3, 26), red) << "the square's upper right quarter, at the lower left";
+    EXPECT_EQ(pixel(image, 3, 26), pureRed)
+        << "the square's upper right quarter, at the lower left";
     EXPECT_EQ(pixel(image, 20, 26), QColor(Qt::green).rgb());
     EXPECT_EQ(pixel(image, 3, 5), QColor(Qt::green).rgb());
 }

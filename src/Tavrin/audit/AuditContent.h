@@ -13,6 +13,9 @@
 namespace Tavrin::AuditContent
 {
 
+/// Pictures are drawn at this scale, so that they are sharp in print and on dense displays.
+inline constexpr double pixelsPerPoint = 2;
+
 /// Kind, number, and the lines of a part: "Section 4.2.1", "Section 4.2.1, lines 3 to 5".
 QString name(const SpecificationEntry &entry);
 

@@ -32,9 +32,6 @@ namespace
 constexpr qsizetype longestOpenText = 1500;
 constexpr qsizetype mostOpenLines = 24;
 
-/// Pictures are drawn so that they are sharp on dense displays.
-constexpr double pixelsPerPoint = 2;
-
 /// A length of CSS, the pixel, is 1/96 inch.
 constexpr double unitsPerPoint = 96.0 / 72;
 
@@ -262,13 +259,13 @@ QString HTMLAuditPage::summary(const SpecificationEntry &entry, const QString &a
 
 QString HTMLAuditPage::picture(const SpecificationEntry &entry)
 {
-    const QImage image = AuditContent::picture(entry, pixelsPerPoint);
+    const QImage image = AuditContent::picture(entry, AuditContent::pixelsPerPoint);
     if (image.isNull()) {
         return element(u"p class=\"quiet\""_s,
                        escaped(localized("No image available", "spec audit message"))) +
                u'\n';
     }
-    const TextAttachment png = TextAttachment::png(image, pixelsPerPoint);
+    const TextAttachment png = TextAttachment::png(image, AuditContent::pixelsPerPoint);
     const QString name = AuditContent::name(entry) + u": "_s + entry.title();
     return u"<img width=\"%1\" height=\"%2\" alt=\""_s.arg(qRound(png.size.width * unitsPerPoint))
                .arg(qRound(png.size.height * unitsPerPoint)) +

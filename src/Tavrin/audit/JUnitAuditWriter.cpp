@@ -88,7 +88,7 @@ Suite references(const AuditReport &report)
     return suite;
 }
 
-Suite requirements(const AuditReport &report)
+Suite requirementSuite(const AuditReport &report)
 {
     Suite suite{u"requirements"_s, {}};
     for (const AuditReport::Requirement &requirement : report.requirements) {
@@ -157,7 +157,7 @@ void writeCounts(QXmlStreamWriter &xml, qsizetype tests, int failures)
 void JUnitAuditWriter::write(const AuditReport &report, QIODevice &device,
                              const Progress & /*progress*/) const
 {
-    const Suite suites[] = {references(report), requirements(report), coverage(report)};
+    const Suite suites[] = {references(report), requirementSuite(report), coverage(report)};
     qsizetype tests = 0;
     int failures = 0;
     for (const Suite &suite : suites) {

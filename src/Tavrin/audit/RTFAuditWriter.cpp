@@ -20,9 +20,6 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-/// Pictures are drawn so that they are sharp in print.
-constexpr double pixelsPerPoint = 2;
-
 TextAttributes titleAttributes()
 {
     constexpr double titleSize = 20;
@@ -105,8 +102,8 @@ void appendEntry(StyledText &text, const AuditReport &report, const AuditReport:
     else if (isTextual(entry.type()))
         AuditBlock::appendSummary(text, AuditContent::summary(entry));
     else
-        AuditBlock::appendPreview(text, AuditContent::picture(entry, pixelsPerPoint),
-                                  pixelsPerPoint);
+        AuditBlock::appendPreview(text, AuditContent::picture(entry, AuditContent::pixelsPerPoint),
+                                  AuditContent::pixelsPerPoint);
     text.append(u"\n\n"_s, AuditBlock::bodyAttributes());
 }
 

@@ -21,13 +21,13 @@ using Separator = CaptionNumber::Separator;
 
 /// The gap between two lines of one paragraph, as a share of their size; captions keep further
 /// from what stands above.
-constexpr double closeLeading = 0.65;
+constexpr double captionLeading = 0.65;
 constexpr double sameSize = 0.05;
 /// The least share of the page's widest line that a line takes which is broken for want of room;
 /// half of the body is a column.
 constexpr double narrowestWrapped = 0.4;
-constexpr std::size_t mostLinesOfTitle = 12;
-constexpr qsizetype longestTitle = 600;
+constexpr std::size_t mostLinesOfCaption = 12;
+constexpr qsizetype longestCaption = 600;
 /// Lines of a page that read like captions and end in a number make a list.
 constexpr int linesOfList = 3;
 
@@ -181,7 +181,7 @@ bool CaptionScanner::continuesParagraph(const std::vector<PrintedLine> &lines,
     const PrintedLine &line = lines[index];
     const PrintedLine *above = lineAbove(lines, index);
     if (!above || !isSameSize(*above, line) ||
-        above->bottom() - line.top() > closeLeading * line.size)
+        above->bottom() - line.top() > captionLeading * line.size)
         return false;
     const double indent = above->bounds.minX() - line.bounds.minX();
     const bool isUnder = indent > -0.3 * line.size && indent < 6 * line.size;
@@ -205,13 +205,13 @@ double CaptionScanner::columnRight(const std::vector<PrintedLine> &lines, const 
 bool CaptionScanner::isWrapped(const std::vector<PrintedLine> &lines, std::size_t first,
                                std::size_t last) const
 {
-    if (last + 1 >= lines.size() || last + 1 - first >= mostLinesOfTitle)
+    if (last + 1 >= lines.size() || last + 1 - first >= mostLinesOfCaption)
         return false;
     const PrintedLine &start = lines[first];
     const PrintedLine &line = lines[last];
     const PrintedLine &next = lines[last + 1];
     const double gap = line.bottom() - next.top();
-    if (!isSameSize(line, next) || gap > closeLeading * line.size || gap < -line.size ||
+    if (!isSameSize(line, next) || gap > captionLeading * line.size || gap < -line.size ||
         next.top() > line.middle() || CaptionNumber::parse(next.text))
         return false;
     const bool isUnder = std::abs(next.bounds.center().x - start.bounds.center().x) < start.size ||
@@ -235,7 +235,7 @@ QString CaptionScanner::title(const std::vector<PrintedLine> &lines, std::size_t
                       ? first + 1 < lines.size() &&
                             lines[first].bottom() - lines[first + 1].top() < lines[first].size
                       : isWrapped(lines, first, last);
-    while (goesOn && title.size() < longestTitle) {
+    while (goesOn && title.size() < longestCaption) {
         const QString next = lines[++last].text.trimmed();
         const bool isBroken =
             title.size() > 1 && title.endsWith(u'-') && !next.isEmpty() && next.front().isLower();
@@ -246,7 +246,7 @@ QString CaptionScanner::title(const std::vector<PrintedLine> &lines, std::size_t
         title += next;
         goesOn = isWrapped(lines, first, last);
     }
-    return title.left(longestTitle);
+    return title.left(longestCaption);
 }
 
 /// The style that the most numbers have is that of captions: it outweighs any other.

@@ -18,7 +18,7 @@ namespace
 {
 
 constexpr int firstPages = 3;
-constexpr qsizetype longestTitle = 200;
+constexpr qsizetype longestDocumentTitle = 200;
 
 /// Converters put the name of their input there.
 bool isFileName(const QString &title)
@@ -44,10 +44,10 @@ QString largestPrint(const std::vector<PrintedLine> &lines, double bodySize)
     }
     QString title;
     for (const PrintedLine &line : lines) {
-        if (line.size > 0.95 * largest && isText(line) && title.size() < longestTitle)
+        if (line.size > 0.95 * largest && isText(line) && title.size() < longestDocumentTitle)
             title += (title.isEmpty() ? QString() : u" "_s) + line.text;
     }
-    return title.left(longestTitle);
+    return title.left(longestDocumentTitle);
 }
 
 } // namespace
@@ -55,7 +55,7 @@ QString largestPrint(const std::vector<PrintedLine> &lines, double bodySize)
 QString FrontMatterReader::title(const CachingPDFDocument &document, const PrintedPages &pages)
 {
     QString given =
-        TextKey::clean(document.documentAttributes().value(u"Title"_s).left(longestTitle));
+        TextKey::clean(document.documentAttributes().value(u"Title"_s).left(longestDocumentTitle));
     if (!given.isEmpty() && !isFileName(given))
         return given;
     for (int page = 0; page < std::min(firstPages, pages.pageCount()); ++page) {

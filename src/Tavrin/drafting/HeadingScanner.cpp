@@ -18,13 +18,13 @@ namespace
 
 using Word = HeadingNumber::Word;
 
-constexpr int mostLinesOfTitle = 4;
-constexpr qsizetype longestTitle = 300;
+constexpr int mostLinesOfOneHeading = 4;
+constexpr qsizetype longestHeading = 300;
 constexpr int knownWeight = 1000;
 /// Larger than the body by this counts as a heading's size.
-constexpr double largerThanBody = 1.06;
+constexpr double leastHeadingSize = 1.06;
 /// The gap between two lines of one title, as a share of their size.
-constexpr double closeLeading = 0.8;
+constexpr double headingLeading = 0.8;
 
 bool isBefore(const DraftItem &a, const DraftItem &b)
 {
@@ -34,7 +34,7 @@ bool isBefore(const DraftItem &a, const DraftItem &b)
 bool looksLikeTitle(const QString &text)
 {
     static const QRegularExpression listed(u"(?:\\.\\h*){4,}|\\h\\.\\h\\.|\\h\\d{1,4}$"_s);
-    if (text.isEmpty() || text.size() > longestTitle || text.endsWith(QLatin1Char(';')))
+    if (text.isEmpty() || text.size() > longestHeading || text.endsWith(QLatin1Char(';')))
         return false;
     const auto isLetter = [](QChar character) { return character.isLetter(); };
     return std::any_of(text.begin(), text.end(), isLetter) && !text.contains(u" . . "_s) &&
@@ -93,7 +93,7 @@ void HeadingScanner::scanPage(int page)
 
 bool HeadingScanner::isHeadingStyle(const PrintedLine &line, const HeadingNumber &number) const
 {
-    const bool isLarger = line.largestSize > largerThanBody * m_pages.bodySize();
+    const bool isLarger = line.largestSize > leastHeadingSize * m_pages.bodySize();
     // Items of lists are numbered too, and often bold.
     if (number.parts.size() == 1 && number.word == Word::None)
         return isLarger;
@@ -139,7 +139,7 @@ void HeadingScanner::readTitle(Candidate &candidate, int page, int line, qsizety
         if (m_finder.isClaimed(page, last))
             return;
     }
-    while (last - line < mostLinesOfTitle && goesOn(page, last))
+    while (last - line < mostLinesOfOneHeading && goesOn(page, last))
         title += QLatin1Char(' ') + textOf(++last);
     candidate.item.title = title;
     candidate.item.label = candidate.item.number->text() + QLatin1Char(' ') + title;
@@ -155,7 +155,7 @@ bool HeadingScanner::goesOn(int page, int line) const
     if (lower.isBold != upper.isBold || lower.beginsStyled != upper.beginsStyled ||
         std::abs(lower.size - upper.size) > 0.3 || HeadingNumber::parse(lower.text))
         return false;
-    if (upper.bottom() - lower.top() > closeLeading * upper.size)
+    if (upper.bottom() - lower.top() > headingLeading * upper.size)
         return false;
     // A title is broken where its next word would not fit, or goes on below its own beginning.
     const auto further = [](const PrintedLine &a, const PrintedLine &b) {

@@ -15,7 +15,7 @@ namespace
 
 constexpr int mostLevels = 3;
 constexpr double largerThanBody = 1.1;
-constexpr qsizetype longestTitle = 120;
+constexpr qsizetype longestStyledHeading = 120;
 
 /// The sizes that make levels, the largest first.
 std::vector<double> levels(const std::vector<double> &sizes)
@@ -65,7 +65,7 @@ bool StyledHeadingScanner::isHeading(const PrintedLine &line) const
     const bool isLarger = line.size > largerThanBody * body;
     const bool isBold = line.isBold && line.size > 0.95 * body;
     const auto isLetter = [](QChar character) { return character.isLetter(); };
-    return (isLarger || isBold) && line.text.size() < longestTitle &&
+    return (isLarger || isBold) && line.text.size() < longestStyledHeading &&
            std::count_if(line.text.begin(), line.text.end(), isLetter) > 1 &&
            !line.text.endsWith(QLatin1Char(',')) && !line.text.endsWith(QLatin1Char(';'));
 }

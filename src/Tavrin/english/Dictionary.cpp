@@ -11,7 +11,7 @@ namespace Tavrin::English
 namespace
 {
 
-constexpr std::size_t expectedWords = 90'000;
+constexpr std::size_t expectedDictionaryWords = 90'000;
 constexpr std::size_t expectedIrregularForms = 6'500;
 
 constexpr quint8 bit(WordClass wordClass)
@@ -53,7 +53,10 @@ const std::array<std::array<Dictionary::Rule, Dictionary::maximumRules>, 4> Dict
     {},
 }};
 
-Dictionary::Dictionary() : m_words(expectedWords), m_irregularForms(expectedIrregularForms) {}
+Dictionary::Dictionary()
+    : m_words(expectedDictionaryWords), m_irregularForms(expectedIrregularForms)
+{
+}
 
 void Dictionary::readIndex(QByteArrayView file, WordClass wordClass)
 {

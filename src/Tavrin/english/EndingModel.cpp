@@ -33,11 +33,6 @@ private:
     std::size_t m_length;
 };
 
-bool isProper(PennTag tag)
-{
-    return tag == PennTag::NNP || tag == PennTag::NNPS;
-}
-
 } // namespace
 
 /// The endings of no letters come first, one a spelling: what is taken where nothing fits.

@@ -15,7 +15,7 @@ namespace Tavrin::English
 namespace
 {
 
-constexpr std::size_t expectedWords = 36'000;
+constexpr std::size_t expectedLexiconWords = 36'000;
 /// A word that was counted no oftener teaches what endings say.
 constexpr float rareCount = 10;
 /// The share of a tag that the dictionary alone knows of, and as how many occurrences it counts at
@@ -56,7 +56,7 @@ float total(const std::array<float, pennTagCount> &counts)
 
 Lexicon::Lexicon(QByteArrayView file, const TagTransitions &transitions,
                  const Dictionary &dictionary)
-    : m_words(expectedWords)
+    : m_words(expectedLexiconWords)
 {
     std::vector<Counts> counts = readCounts(file, transitions);
     m_hasCounts = std::any_of(counts.begin(), counts.end(),

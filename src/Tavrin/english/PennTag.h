@@ -25,6 +25,11 @@ constexpr std::size_t slot(PennTag tag)
     return static_cast<std::size_t>(tag);
 }
 
+constexpr bool isProper(PennTag tag)
+{
+    return tag == PennTag::NNP || tag == PennTag::NNPS;
+}
+
 /// A set of tags, as bits.
 class PennTagSet
 {

@@ -24,11 +24,6 @@ const float unlistedNameInTitle = std::log(0.1F);
 const float ruledOut = std::log(0.03F);
 constexpr float leastProbability = 1e-4F;
 
-bool isProper(PennTag tag)
-{
-    return tag == PennTag::NNP || tag == PennTag::NNPS;
-}
-
 /// "Italian", "French", "Chinese": adjectives that have a capital wherever they stand.
 bool isOfAPeople(std::string_view word)
 {

@@ -19,7 +19,7 @@ namespace
 {
 
 /// How far above its place a figure's caption may stand.
-constexpr double reach = 40;
+constexpr double captionReach = 40;
 
 using Kind = CaptionSurroundings::Kind;
 
@@ -61,7 +61,7 @@ struct LayoutBreakMeasurer::PageView {
     double topFor(const PDFSpecification::Entry &entry) const
     {
         const HostPDFDestination &place = *entry.destination();
-        return place.page() == page ? page->geometry().toUpright(place.point()).y + reach
+        return place.page() == page ? page->geometry().toUpright(place.point()).y + captionReach
                                     : box.maxY();
     }
 

@@ -11,7 +11,7 @@ namespace Tavrin
 namespace
 {
 
-LineStream &stream()
+LineStream &errorStream()
 {
     static LineStream theStream(stderr);
     return theStream;
@@ -21,17 +21,17 @@ LineStream &stream()
 
 void standardError(const QString &message)
 {
-    stream().write(message);
+    errorStream().write(message);
 }
 
 StandardErrorRedirection::StandardErrorRedirection(Receiver receiver)
 {
-    stream().push(std::move(receiver));
+    errorStream().push(std::move(receiver));
 }
 
 StandardErrorRedirection::~StandardErrorRedirection()
 {
-    stream().pop();
+    errorStream().pop();
 }
 
 } // namespace Tavrin

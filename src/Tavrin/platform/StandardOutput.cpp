@@ -11,7 +11,7 @@ namespace Tavrin
 namespace
 {
 
-LineStream &stream()
+LineStream &outputStream()
 {
     static LineStream theStream(stdout);
     return theStream;
@@ -21,17 +21,17 @@ LineStream &stream()
 
 void standardOutput(const QString &message)
 {
-    stream().write(message);
+    outputStream().write(message);
 }
 
 StandardOutputRedirection::StandardOutputRedirection(Receiver receiver)
 {
-    stream().push(std::move(receiver));
+    outputStream().push(std::move(receiver));
 }
 
 StandardOutputRedirection::~StandardOutputRedirection()
 {
-    stream().pop();
+    outputStream().pop();
 }
 
 } // namespace Tavrin

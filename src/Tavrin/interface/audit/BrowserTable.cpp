@@ -17,7 +17,6 @@ namespace
 
 using Cell = BrowserSpecReferenceItem::Cell;
 
-constexpr qsizetype labelColumn = 3;
 /// In characters, on the average of a column.
 constexpr double longText = 100;
 constexpr int shortColumnWidth = 300;
@@ -50,7 +49,7 @@ BrowserTable::Counts count(const std::vector<QStringList> &rows)
     BrowserTable::Counts counts;
     counts.entries = std::ssize(rows);
     counts.referenced = std::count_if(rows.begin(), rows.end(), [](const QStringList &row) {
-        return !row.value(labelColumn).isEmpty();
+        return !row.value(BrowserTable::labelColumn).isEmpty();
     });
     counts.complete = std::count_if(rows.begin(), rows.end(), isComplete);
     return counts;

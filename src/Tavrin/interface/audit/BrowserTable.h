@@ -14,6 +14,9 @@ namespace Tavrin
 /// The table of an audit, laid out: columns, rows and counts. Takes time for many rows, so it is
 /// made where the audit is.
 struct BrowserTable {
+    /// Where a row holds the label of its entry, if it has one.
+    static constexpr int labelColumn = 3;
+
     struct Column {
         /// "column" and the position, from 0.
         QString identifier;

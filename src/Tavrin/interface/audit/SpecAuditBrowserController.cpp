@@ -36,7 +36,6 @@ namespace
 /// Beside the button's text, on both sides together, in pixels.
 constexpr int buttonPadding = 36;
 constexpr int referenceColumn = 0;
-constexpr int labelColumn = 3;
 
 /// The specification first, then as the manager looks labels up.
 std::vector<std::shared_ptr<Specification>> lookupOrder(const std::shared_ptr<Specification> &first)
@@ -402,7 +401,7 @@ void SpecAuditBrowserController::tableViewRowDoubleClicked()
         return;
     }
     // A table of the host's may begin with the label; that of an audit ends with it.
-    for (const int column : {referenceColumn, labelColumn}) {
+    for (const int column : {referenceColumn, BrowserTable::labelColumn}) {
         const QString &label = item->value(column);
         if (const auto entry = entryFor(label)) {
             const auto detail = detailOf(*entry, label);

@@ -82,7 +82,7 @@ void DetailToolBar::addPageField()
     addAction(field);
     // The field itself takes no shortcut.
     auto *goToPage = new QAction(field->text(), this);
-    goToPage->setShortcut(Qt::CTRL | Qt::Key_L);
+    goToPage->setShortcut(QKeyCombination(Qt::CTRL, Qt::Key_L));
     goToPage->setShortcutContext(Qt::WidgetWithChildrenShortcut);
     m_scope.addAction(goToPage);
     connect(goToPage, &QAction::triggered, this, [this, field] {
@@ -102,12 +102,12 @@ void DetailToolBar::addZoom()
     m_zoomIn = addCommand(IconShape::ZoomIn, localized("Zoom In", "Tool bar of the detail view"),
                           QKeySequence::ZoomIn);
     // The plus sign shares its key with others on most keyboards.
-    m_zoomIn->setShortcuts({m_zoomIn->shortcut(), Qt::CTRL | Qt::Key_Equal});
+    m_zoomIn->setShortcuts({m_zoomIn->shortcut(), QKeyCombination(Qt::CTRL, Qt::Key_Equal)});
     m_fitWidth =
         addCommand(IconShape::FitWidth, localized("Fit Width", "Tool bar of the detail view"),
-                   Qt::CTRL | Qt::Key_0);
+                   QKeyCombination(Qt::CTRL, Qt::Key_0));
     m_fitPage = addCommand(IconShape::FitPage, localized("Fit Page", "Tool bar of the detail view"),
-                           Qt::CTRL | Qt::Key_9);
+                           QKeyCombination(Qt::CTRL, Qt::Key_9));
     m_fitWidth->setCheckable(true);
     m_fitPage->setCheckable(true);
     connect(m_zoomOut, &QAction::triggered, &m_view, [this] { m_view.zoomOut(); });
@@ -146,7 +146,7 @@ void DetailToolBar::addFind()
                         QKeySequence::Find);
     m_invert =
         addCommand(IconShape::Invert, localized("Inverted Pages", "Tool bar of the detail view"),
-                   Qt::CTRL | Qt::Key_I);
+                   QKeyCombination(Qt::CTRL, Qt::Key_I));
     m_invert->setCheckable(true);
     connect(m_find, &QAction::triggered, &m_view, &HostPDFView::showFindBar);
     connect(m_invert, &QAction::triggered, &m_view, &HostPDFView::setColorsInverted);
