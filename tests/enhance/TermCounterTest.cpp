@@ -4,7 +4,6 @@
 
 #include <map>
 
-#include <Tavrin/enhance/CharacterCount.h>
 #include <Tavrin/enhance/StopWords.h>
 #include <Tavrin/enhance/TermCounter.h>
 
@@ -79,9 +78,6 @@ TEST(TermCounter, leavesNoHyphenLoose)
 
 TEST(TermCounter, losesUnitsAtTheEndToCharactersOfSeveralUnits)
 {
-    EXPECT_EQ(characterCount(u"a\U0001d400b"), 3);
-    EXPECT_EQ(characterCount(u"e\u0301\r\n\u2019"), 3);
-    EXPECT_EQ(characterCount(u""), 0);
     // Four characters too many hide the last word, whose first unit lies behind the range.
     EXPECT_EQ(counts(u"\U0001f600\U0001f600\U0001f600\U0001f600 kernel pipe"_s).count("pipe"), 0U);
     EXPECT_EQ(counts(u"\U0001f600\U0001f600\U0001f600 kernel pipe"_s).count("pipe"), 1U);

@@ -182,6 +182,9 @@ TEST_F(Search, CountsCharactersAndWordsAsReadersDo)
 {
     EXPECT_EQ(EntryText::characterCount(u"a\r\nb"), 3);
     EXPECT_EQ(EntryText::characterCount(u"“naïve”–章"), 9);
+    EXPECT_EQ(EntryText::characterCount(u"a\U0001d400b"), 3);
+    EXPECT_EQ(EntryText::characterCount(u"e\u0301\r\n\u2019"), 3);
+    EXPECT_EQ(EntryText::characterCount(u"a\u20d7 →"), 3);
     EXPECT_EQ(EntryText::characterCount(u""), 0);
     const auto words = EntryText::simpleWordFrequencies(u"to be, or not to be: it's 4.2 é!"_s);
     const decltype(words) expected{{u"to"_s, 2},   {u"be"_s, 2},  {u"or"_s, 1}, {u"not"_s, 1},

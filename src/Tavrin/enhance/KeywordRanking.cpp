@@ -5,8 +5,8 @@
 #include <cmath>
 #include <set>
 
-#include <Tavrin/enhance/CharacterCount.h>
 #include <Tavrin/enhance/ScoreOrder.h>
+#include <Tavrin/model/EntryText.h>
 
 namespace Tavrin
 {
@@ -54,7 +54,7 @@ std::vector<WeightedKeyword> rankKeywords(const TermCounts &counts, const TermCo
         const int words = wordCount(term);
         if ((count <= 1 && words != 1) || term == foldedTitle)
             continue;
-        const auto length = static_cast<double>(characterCount(term));
+        const auto length = static_cast<double>(EntryText::characterCount(term));
         keywords.push_back({term, std::log(length) * count / (words * totals.value(term))});
     }
     std::stable_sort(keywords.begin(), keywords.end(), byScore);

@@ -3,8 +3,8 @@
 
 #include <algorithm>
 
-#include <Tavrin/enhance/CharacterCount.h>
 #include <Tavrin/enhance/ScoreOrder.h>
+#include <Tavrin/model/EntryText.h>
 
 namespace Tavrin::RelatedEntryGraph
 {
@@ -109,7 +109,7 @@ void addSharedTexts(const std::vector<NodePtr> &nodes, double weight,
             if (const NodePtr node = resolve(label))
                 holders.push_back(makeHolder(node, text));
         }
-        addPairs(holders, weight, double(characterCount(text)), double(labels.size()));
+        addPairs(holders, weight, double(EntryText::characterCount(text)), double(labels.size()));
     }
 }
 

@@ -3,8 +3,8 @@
 
 #include <algorithm>
 
-#include <Tavrin/enhance/CharacterCount.h>
 #include <Tavrin/enhance/LineEndHyphens.h>
+#include <Tavrin/model/EntryText.h>
 #include <Tavrin/platform/CharacterSet.h>
 
 namespace Tavrin
@@ -55,7 +55,7 @@ TermCounts TermCounter::count(const QString &text)
     m_text = text;
     tagger().setString(text);
     // A text with characters of several units loses as many units at its end.
-    const TextRange range{0, characterCount(text)};
+    const TextRange range{0, EntryText::characterCount(text)};
     m_tagger->enumerateTags(range, TagScheme::TokenType,
                             [this](std::optional<LinguisticTag> type, TextRange token, TextRange,
                                    bool &) { addToken(token, type); });

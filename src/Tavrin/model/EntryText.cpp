@@ -22,13 +22,16 @@ bool isSeparatorByCategory(QChar character)
     return CharacterSet::isPunctuation(character) || CharacterSet::isWhiteSpaceOrNewline(character);
 }
 
-/// Below the first combining mark every unit is a character of its own, save the line feed of a
-/// pair; so are typographic dashes and quotes and the main block of ideographs.
+/// Units that are a character by themselves, whatever stands around them: all below the first
+/// combining mark, save the line feed of a pair; general punctuation and symbols without joiners
+/// and marks; the main block of ideographs. Nearly all text is made of them alone.
 bool isWholeCharacter(QChar unit)
 {
     const char16_t code = unit.unicode();
-    return (code < 0x300 && code != u'\r') || (code >= 0x2010 && code <= 0x2027) ||
-           (code >= 0x4E00 && code <= 0x9FFF);
+    if (code < 0x300)
+        return code != u'\r';
+    return (code >= 0x200e && code < 0x20d0) || (code > 0x20ff && code < 0x2c00) ||
+           (code >= 0x4e00 && code <= 0x9fff);
 }
 
 /// Longer terms are not tried at every occurrence of their first character.

@@ -18,16 +18,16 @@ public:
     void enqueue(T element)
     {
         const std::lock_guard lock(m_mutex);
-        m_array.push_back(std::move(element));
+        m_elements.push_back(std::move(element));
     }
     /// The first element; nothing if there is none.
     std::optional<T> dequeue()
     {
         const std::lock_guard lock(m_mutex);
-        if (m_array.empty())
+        if (m_elements.empty())
             return std::nullopt;
-        std::optional<T> first(std::move(m_array.front()));
-        m_array.pop_front();
+        std::optional<T> first(std::move(m_elements.front()));
+        m_elements.pop_front();
         return first;
     }
     void removeAll()
@@ -35,12 +35,12 @@ public:
         std::deque<T> removed;
         const std::lock_guard lock(m_mutex);
         // Destroyed after the lock is given back.
-        removed.swap(m_array);
+        removed.swap(m_elements);
     }
 
 private:
     std::mutex m_mutex;
-    std::deque<T> m_array;
+    std::deque<T> m_elements;
 };
 
 } // namespace Tavrin
