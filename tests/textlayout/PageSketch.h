@@ -4,7 +4,7 @@
 #include <QString>
 #include <QStringList>
 
-#include <Tavrin/textlayout/PageText.h>
+#include <Tavrin/pdf/PageText.h>
 
 namespace Tavrin
 {
@@ -37,7 +37,7 @@ public:
     /// The last `count` glyphs become parts of one ligature that is one letter wide.
     void ligate(size_t count, bool followersHaveNoWidth);
 
-    PageText text() const { return PageText::build(glyphs, geometry); }
+    PageText text() const { return PageText(glyphs, geometry); }
     QStringList lines() const { return text().string().split(u'\n'); }
 
     PageGlyphs glyphs;

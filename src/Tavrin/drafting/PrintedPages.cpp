@@ -3,7 +3,7 @@
 
 #include <Tavrin/drafting/HeadingNumber.h>
 #include <Tavrin/drafting/TextKey.h>
-#include <Tavrin/textlayout/PageText.h>
+#include <Tavrin/pdf/PageText.h>
 
 #include <algorithm>
 #include <cmath>

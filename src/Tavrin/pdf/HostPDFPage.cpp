@@ -2,7 +2,7 @@
 #include <Tavrin/pdf/HostPDFPage.h>
 
 #include <Tavrin/pdf/HostPDFDocument.h>
-#include <Tavrin/textlayout/PageText.h>
+#include <Tavrin/pdf/PageText.h>
 
 #include <utility>
 
@@ -45,7 +45,7 @@ std::shared_ptr<const PageText> HostPDFPage::text() const
         const auto owner = document();
         const auto glyphs = owner ? owner->engine().pageGlyphs(m_index) : std::nullopt;
         if (glyphs)
-            m_text = std::make_shared<const PageText>(PageText::build(*glyphs, m_geometry));
+            m_text = std::make_shared<const PageText>(*glyphs, m_geometry);
     });
     return m_text;
 }

@@ -2,7 +2,7 @@
 #include <Tavrin/pdf/HostPDFSelection.h>
 
 #include <Tavrin/pdf/HostPDFPage.h>
-#include <Tavrin/textlayout/PageText.h>
+#include <Tavrin/pdf/PageText.h>
 
 #include <algorithm>
 #include <utility>

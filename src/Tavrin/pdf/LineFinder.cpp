@@ -2,9 +2,9 @@
 #include <Tavrin/pdf/LineFinder.h>
 
 #include <Tavrin/pdf/CachingPDFDocument.h>
+#include <Tavrin/pdf/PageText.h>
 #include <Tavrin/platform/CharacterSet.h>
 #include <Tavrin/platform/StandardError.h>
-#include <Tavrin/textlayout/PageText.h>
 
 #include <algorithm>
 

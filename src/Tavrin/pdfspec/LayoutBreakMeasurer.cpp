@@ -2,7 +2,7 @@
 #include <Tavrin/pdfspec/LayoutBreakMeasurer.h>
 
 #include <Tavrin/pdf/CachingPDFDocument.h>
-#include <Tavrin/textlayout/PageText.h>
+#include <Tavrin/pdf/PageText.h>
 
 #include <QRegularExpression>
 

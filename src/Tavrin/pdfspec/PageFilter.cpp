@@ -3,10 +3,10 @@
 
 #include <Tavrin/model/SpecURL.h>
 #include <Tavrin/pdf/LineFinder.h>
+#include <Tavrin/pdf/PageText.h>
 #include <Tavrin/pdfspec/EntryNavigator.h>
 #include <Tavrin/platform/Logging.h>
 #include <Tavrin/platform/StandardError.h>
-#include <Tavrin/textlayout/PageText.h>
 
 #include <algorithm>
 

@@ -2,8 +2,8 @@
 #include <Tavrin/pdfspec/PageLines.h>
 
 #include <Tavrin/pdf/LineFinder.h>
+#include <Tavrin/pdf/PageText.h>
 #include <Tavrin/pdf/StyledTextEditing.h>
-#include <Tavrin/textlayout/PageText.h>
 
 #include <QHash>
 

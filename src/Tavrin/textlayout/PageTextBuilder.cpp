@@ -29,22 +29,22 @@ LayoutGlyph cut(LayoutGlyph glyph, const DraftLine &line)
 PageTextBuilder::PageTextBuilder(const PageGlyphs &page, const PageGeometry &geometry)
     : m_page(page)
 {
-    m_text.m_geometry = geometry;
-    m_text.m_drawings = page.drawings;
+    m_text.geometry = geometry;
+    m_text.drawings = page.drawings;
 }
 
-PageText PageTextBuilder::build()
+LaidOutText PageTextBuilder::build()
 {
     const size_t expected = m_page.glyphs.size() + m_page.glyphs.size() / 8;
-    m_text.m_string.reserve(static_cast<qsizetype>(expected));
-    m_text.m_boxes.reserve(expected);
+    m_text.string.reserve(static_cast<qsizetype>(expected));
+    m_text.boxes.reserve(expected);
     for (const GlyphFrame &frame : GlyphFrame::split(m_page))
         addFrame(frame);
-    m_text.m_string.squeeze();
-    m_text.m_boxes.shrink_to_fit();
-    m_text.m_styledText = styledText();
+    m_text.string.squeeze();
+    m_text.boxes.shrink_to_fit();
+    m_text.styledText = styledText();
     // The two share their characters from here on.
-    m_text.m_string = m_text.m_styledText.string();
+    m_text.string = m_text.styledText.string();
     indexPlaces();
     return std::move(m_text);
 }
@@ -75,17 +75,17 @@ void PageTextBuilder::addFrame(const GlyphFrame &frame)
 
 void PageTextBuilder::beginLine()
 {
-    if (!m_text.m_lines.empty())
+    if (!m_text.lines.empty())
         addUnit(u'\n', {}, m_runs.back().style);
-    m_text.m_lines.push_back({{m_text.m_string.size(), 0}, Rect::null()});
+    m_text.lines.push_back({{m_text.string.size(), 0}, Rect::null()});
     m_lineBoxes.push_back({});
 }
 
 void PageTextBuilder::endLine()
 {
-    PageTextLine &line = m_text.m_lines.back();
-    line.range.length = m_text.m_string.size() - line.range.location;
-    line.bounds = m_text.m_geometry.toPage(toRect(m_lineBoxes.back()));
+    PageTextLine &line = m_text.lines.back();
+    line.range.length = m_text.string.size() - line.range.location;
+    line.bounds = m_text.geometry.toPage(toRect(m_lineBoxes.back()));
 }
 
 void PageTextBuilder::addGlyph(const GlyphFrame &frame, const LayoutGlyph &glyph)
@@ -114,11 +114,11 @@ void PageTextBuilder::addBlank(const GlyphFrame &frame, const LayoutGlyph &befor
 
 void PageTextBuilder::addUnit(char16_t unit, const CellBox &box, quint32 style)
 {
-    m_text.m_string.append(QChar(unit));
-    m_text.m_boxes.push_back(box);
+    m_text.string.append(QChar(unit));
+    m_text.boxes.push_back(box);
     if (m_runs.empty() || m_runs.back().style != style)
         m_runs.push_back({0, style});
-    m_runs.back().end = m_text.m_string.size();
+    m_runs.back().end = m_text.string.size();
 }
 
 StyledText PageTextBuilder::styledText() const
@@ -131,7 +131,7 @@ StyledText PageTextBuilder::styledText() const
             attributes.font = m_page.styles[run.style].font;
             attributes.foregroundColor = m_page.styles[run.style].color;
         }
-        result.append(m_text.m_string.sliced(start, run.end - start), attributes);
+        result.append(m_text.string.sliced(start, run.end - start), attributes);
         start = run.end;
     }
     return result;
@@ -139,12 +139,12 @@ StyledText PageTextBuilder::styledText() const
 
 void PageTextBuilder::indexPlaces()
 {
-    constexpr size_t unitsPerBox = PageText::unitsPerBox;
-    std::vector<CellBox> boxes((m_text.m_boxes.size() + unitsPerBox - 1) / unitsPerBox);
-    for (size_t i = 0; i < m_text.m_boxes.size(); ++i)
-        boxes[i / unitsPerBox].unite(m_text.m_boxes[i]);
-    m_text.m_unitTree = BoxTree(std::move(boxes));
-    m_text.m_lineTree = BoxTree(std::move(m_lineBoxes));
+    constexpr size_t unitsPerBox = LaidOutText::unitsPerBox;
+    std::vector<CellBox> boxes((m_text.boxes.size() + unitsPerBox - 1) / unitsPerBox);
+    for (size_t i = 0; i < m_text.boxes.size(); ++i)
+        boxes[i / unitsPerBox].unite(m_text.boxes[i]);
+    m_text.unitTree = BoxTree(std::move(boxes));
+    m_text.lineTree = BoxTree(std::move(m_lineBoxes));
 }
 
 } // namespace Tavrin

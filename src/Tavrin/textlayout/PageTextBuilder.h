@@ -2,8 +2,8 @@
 #pragma once
 
 #include <Tavrin/textlayout/GlyphFrame.h>
+#include <Tavrin/textlayout/LaidOutText.h>
 #include <Tavrin/textlayout/LineGrouper.h>
-#include <Tavrin/textlayout/PageText.h>
 #include <Tavrin/textlayout/WordSpacing.h>
 
 namespace Tavrin
@@ -15,7 +15,7 @@ class PageTextBuilder
 public:
     PageTextBuilder(const PageGlyphs &page, const PageGeometry &geometry);
 
-    PageText build();
+    LaidOutText build();
 
 private:
     /// Text in one style.
@@ -33,7 +33,7 @@ private:
     void indexPlaces();
 
     const PageGlyphs &m_page;
-    PageText m_text;
+    LaidOutText m_text;
     std::vector<Run> m_runs;
     std::vector<CellBox> m_lineBoxes;
 };

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include <Tavrin/pdf/HostPDFPage.h>
-#include <Tavrin/textlayout/PageText.h>
+#include <Tavrin/pdf/PageText.h>
 
 namespace Tavrin
 {
