@@ -19,8 +19,6 @@ namespace
 class Auditor : public AuditFixture
 {
 protected:
-    void TearDown() override { SpecificationManager::shared().setSpecifications({}); }
-
     /// A page with sections below each other, from the top down, given in any order.
     QStringList addManySections(int count)
     {
@@ -33,6 +31,8 @@ protected:
         return labels;
     }
     QByteArray rtf(const QString &name) const { return files.read(name); }
+
+    SpecificationManager manager;
 };
 
 } // namespace
@@ -42,7 +42,7 @@ TEST_F(Auditor, MakesATable)
     auto other = Specification::make<Specification>();
     other->add(std::make_shared<SpecificationEntry>(
         other, u"far"_s, u"Elsewhere"_s, SpecificationEntryType::Table, std::vector<int>{7, 1}));
-    SpecificationManager::shared().setSpecifications({specification, other});
+    manager.setSpecifications({specification, other});
     specification->entry(u"1.1"_s)->setRelatedEntries({u"2.1"_s, u"nowhere"_s, u"far"_s});
     bind();
     std::dynamic_pointer_cast<Entry>(specification->entry(u"1.2"_s))
@@ -69,7 +69,7 @@ TEST_F(Auditor, WorksOnAnotherThread)
     auto other = Specification::make<Specification>();
     other->add(std::make_shared<SpecificationEntry>(
         other, u"far"_s, u"Elsewhere"_s, SpecificationEntryType::Table, std::vector<int>{7, 1}));
-    SpecificationManager::shared().setSpecifications({specification, other});
+    manager.setSpecifications({specification, other});
     specification->entry(u"1.1"_s)->setRelatedEntries({u"spec://2.1/engine/7/3/0"_s, u"far"_s});
     bind();
     // A range of lines that ends before it begins would end the process if it was looked up.
@@ -80,7 +80,7 @@ TEST_F(Auditor, WorksOnAnotherThread)
     EXPECT_EQ(expected[2], QStringList(4));
     EXPECT_EQ(expected[4], expected[1]);
     const PDFSpecAuditor detached = auditor().detached();
-    SpecificationManager::shared().setSpecifications({});
+    manager.setSpecifications({});
     std::vector<PDFSpecAuditor::Row> rows;
     AuditReport report;
     startTask(backgroundPool(), [&] {

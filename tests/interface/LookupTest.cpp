@@ -97,8 +97,9 @@ TEST_F(LookupViews, HaveThePrimarySpecificationMeasuredInTheBackground)
     };
     const auto primary = Specification::make<Measured>();
     const auto other = Specification::make<Measured>();
-    manager.setSpecifications({primary, other});
-    manager.setPrimarySpecification(primary);
+    // Any manager's, not the shared one's alone.
+    SpecificationManager hosts;
+    hosts.setSpecifications({primary, other});
     const QUrl document = writeDocument(u"alpha"_s, u"alpha.pdf"_s);
     for (const auto &specification : {primary, other})
         specification->loadPDFDocument(document);

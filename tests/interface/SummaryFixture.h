@@ -14,7 +14,6 @@
 #include <Tavrin/interface/summary/SpecEntrySummaryViewController.h>
 #include <Tavrin/interface/toolkit/Popover.h>
 #include <Tavrin/interface/toolkit/TableScrollView.h>
-#include <Tavrin/model/EntryDirectory.h>
 #include <Tavrin/platform/BackgroundPool.h>
 #include <pdfspec/ReadingFixture.h>
 #include <support/FinishTasks.h>
@@ -47,7 +46,6 @@ protected:
     }
     void TearDown() override
     {
-        EntryDirectory::setLookup({});
         finishTasks(backgroundPool());
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }

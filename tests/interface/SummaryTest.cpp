@@ -268,7 +268,8 @@ TEST_F(Summary, OpensOrRefusesOtherDestinations)
     auto other = Specification::make<Specification>();
     other->add(std::make_shared<SpecificationEntry>(
         other, u"Far"_s, u"Elsewhere"_s, SpecificationEntryType::Table, std::vector<int>{7}));
-    EntryDirectory::setLookup([&](const QString &label) { return other->entry(label); });
+    SpecificationManager manager;
+    manager.setSpecifications({specification, other});
     controller.summaryCellClickedLink(u"Far"_s);
     ASSERT_EQ(followed.count(), 1);
     EXPECT_EQ(followed.at(0).at(1).value<std::shared_ptr<Specification>>(), other);

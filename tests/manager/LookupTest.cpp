@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <utility>
 
+#include <Tavrin/model/SpecificationRegistry.h>
 #include <Tavrin/model/ViewControllerFactory.h>
 
 #include "StoreFixture.h"
@@ -39,6 +40,12 @@ class RecordingFactory : public ViewControllerFactory
 {
 public:
     QString failing;
+    std::vector<std::shared_ptr<Specification>> bound;
+
+    void documentBound(const std::shared_ptr<Specification> &specification) override
+    {
+        bound.push_back(specification);
+    }
 
     ViewControllerPtr summary(const std::shared_ptr<SpecificationEntry> &entry) override
     {
@@ -387,6 +394,39 @@ TEST_F(Lookup, SurvivesWhatCannotBeMade)
     manager.reset();
     prompt->pressed();
     EXPECT_THAT(browsers, IsEmpty()) << "the manager has gone";
+}
+
+TEST_F(Lookup, HandsItselfToTheSpecificationsThatItKeeps)
+{
+    const auto own = std::make_shared<RecordingFactory>();
+    manager->setViewControllerFactory(own);
+    import(u"beta"_s);
+    import(u"alpha"_s);
+    const auto alpha = specification(u"alpha"_s);
+    EXPECT_THAT(own->bound, ElementsAre(specification(u"beta"_s), alpha));
+    EXPECT_THAT(factory->bound, IsEmpty()) << "it is installed, and not this manager's";
+    const auto registry = alpha->registry();
+    ASSERT_TRUE(registry);
+    EXPECT_EQ(registry->primarySpecification(), alpha);
+    EXPECT_EQ(registry->specifications(), manager->specifications());
+    EXPECT_EQ(registry->entry(u"beta"_s)->specification(), specification(u"beta"_s));
+    own->failing = u"summary"_s;
+    EXPECT_THAT(alpha->summaryViewController(u"1"_s), IsNull());
+    EXPECT_EQ(contents(manager->detailLookup(alpha->entry(u"1"_s))), u"alpha 1"_s);
+
+    SpecificationManager other;
+    other.setSpecifications({alpha});
+    manager->setSpecifications({});
+    EXPECT_EQ(alpha->registry()->specifications(), other.specifications()) << "it was taken over";
+    EXPECT_EQ(contents(alpha->summaryViewController(u"1"_s)), u"alpha 1"_s);
+    other.setSpecifications({});
+    EXPECT_EQ(alpha->registry(), nullptr);
+
+    manager->setSpecifications({alpha});
+    EXPECT_EQ(alpha->registry(), registry);
+    manager.reset();
+    EXPECT_EQ(registry->entry(u"1"_s), nullptr) << "whoever holds it learns nothing more";
+    EXPECT_THAT(registry->specifications(), IsEmpty());
 }
 
 TEST_F(Lookup, MakesNoViewsWithoutWindows)

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
-#include <Tavrin/model/EntryDirectory.h>
-
 #include <atomic>
 #include <thread>
+
+#include <Tavrin/manager/SpecificationManager.h>
 
 #include "ReadingFixture.h"
 
@@ -31,7 +31,6 @@ protected:
         red = figure(u"Figure 1"_s, u"Red"_s, 1, 205);
         specification->setTitle(u"A Specification"_s);
     }
-    void TearDown() override { EntryDirectory::setLookup({}); }
 
     static QStringList labels(const Entry &entry)
     {
@@ -89,7 +88,8 @@ TEST_F(EntryDisplay, ResolvesRelatedEntriesAtHomeFirst)
         other->add(std::make_shared<SpecificationEntry>(
             other, label, u"Elsewhere"_s, SpecificationEntryType::Table, std::vector<int>{7}));
     }
-    EntryDirectory::setLookup([&](const QString &label) { return other->entry(label); });
+    std::optional<SpecificationManager> manager(std::in_place);
+    manager->setSpecifications({specification, other});
     scope->setRelatedEntries({u"Far"_s, u"nowhere"_s, u"Figure 1"_s});
     EXPECT_EQ(value(*scope, u"Related"_s), QVariant()) << "nothing to read, nothing related";
     bind();
@@ -100,6 +100,15 @@ TEST_F(EntryDisplay, ResolvesRelatedEntriesAtHomeFirst)
     EXPECT_EQ(related[1].value<StyledText>().string(), red->displayTitle());
     scope->setRelatedEntries({u"nowhere"_s});
     EXPECT_FALSE(labels(*scope).contains(u"Related"_s));
+
+    scope->setRelatedEntries({u"Far"_s});
+    EXPECT_TRUE(labels(*scope).contains(u"Related"_s));
+    manager->setSpecifications({specification});
+    EXPECT_FALSE(labels(*scope).contains(u"Related"_s));
+    manager->registerSpecification(other);
+    EXPECT_TRUE(labels(*scope).contains(u"Related"_s));
+    manager.reset();
+    EXPECT_FALSE(labels(*scope).contains(u"Related"_s)) << "nobody knows of others any more";
 }
 
 TEST_F(EntryDisplay, DrawsPreviewsOnWhiteWithoutAnnotations)

@@ -3,8 +3,8 @@
 
 #include <algorithm>
 
-#include <Tavrin/manager/SpecificationManager.h>
 #include <Tavrin/model/SpecURL.h>
+#include <Tavrin/model/SpecificationRegistry.h>
 
 namespace Tavrin
 {
@@ -18,12 +18,18 @@ std::shared_ptr<SpecificationEntry> find(const QString &label, Specification &sp
     return SpecURL::hasReversedLines(label) ? nullptr : specification.entry(label);
 }
 
+std::vector<std::shared_ptr<Specification>> registered(const Specification &specification)
+{
+    const auto registry = specification.registry();
+    return registry ? registry->specifications() : std::vector<std::shared_ptr<Specification>>();
+}
+
 std::shared_ptr<SpecificationEntry> find(const QString &label, Specification &first,
                                          const OtherSpecifications &others)
 {
     if (auto entry = find(label, first))
         return entry;
-    for (const auto &other : others ? *others : SpecificationManager::shared().specifications()) {
+    for (const auto &other : others ? *others : registered(first)) {
         auto entry = other.get() == &first ? nullptr : find(label, *other);
         if (entry)
             return entry;
@@ -45,7 +51,7 @@ std::vector<std::shared_ptr<Specification>> otherSpecifications(Specification &s
     });
     if (isComplete)
         return {};
-    auto others = SpecificationManager::shared().specifications();
+    auto others = registered(specification);
     for (const auto &other : others)
         find({}, *other);
     return others;

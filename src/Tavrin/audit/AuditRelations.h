@@ -10,12 +10,12 @@
 namespace Tavrin
 {
 
-/// The specifications beside the audited one, in which related entries are found. The shared
-/// manager's, if there is no list.
+/// The specifications beside the audited one, in which related entries are found. Those of its
+/// registry, if there is no list.
 using OtherSpecifications = std::optional<std::vector<std::shared_ptr<Specification>>>;
 
-/// The list that the shared manager has now, with the tables in memory; empty if the entries of
-/// the specification name none but each other.
+/// The list that the specification's registry has now, with the tables in memory; empty without
+/// one, or if the entries of the specification name none but each other.
 std::vector<std::shared_ptr<Specification>> otherSpecifications(Specification &specification);
 
 /// The entries that an entry names as related: of its own specification, else of the first other

@@ -43,8 +43,8 @@ public:
     explicit PDFSpecAuditor(const std::shared_ptr<PDFSpecification> &specification);
 
     /// The same for another thread, which may then make tables and reports: it knows the
-    /// specifications that the shared manager has now, and asks the manager nothing more. The
-    /// tables that it may need are loaded now, on the thread of the manager.
+    /// specifications that the audited one's manager has now, and asks the manager nothing more.
+    /// The tables that it may need are loaded now, on the thread of the manager.
     ///
     /// Whoever audits there holds the specification's reading lock, so that no file is bound
     /// meanwhile.
@@ -84,7 +84,7 @@ public:
                      const std::optional<QStringList> &forHeadings = {}) const;
 
     /// What the references cover. No page is read; the tables of other specifications may be
-    /// loaded to find related entries, so this belongs on the thread of the shared manager, unless
+    /// loaded to find related entries, so this belongs on the thread of the manager, unless
     /// the auditor is detached().
     AuditReport report(const std::vector<AuditReference> &references,
                        const AuditDemands &demands = {}) const;

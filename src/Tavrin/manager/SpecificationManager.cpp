@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <Tavrin/manager/SpecificationManager.h>
 
-#include <Tavrin/model/EntryDirectory.h>
+#include <Tavrin/manager/ManagedRegistry.h>
 #include <Tavrin/model/MapReading.h>
 #include <Tavrin/platform/Logging.h>
 
@@ -22,30 +22,50 @@ SpecificationManager::DirectoryError::DirectoryError(const QString &name)
 {
 }
 
-SpecificationManager::SpecificationManager() = default;
-SpecificationManager::~SpecificationManager() = default;
+SpecificationManager::SpecificationManager() : m_registry(std::make_shared<ManagedRegistry>(*this))
+{
+}
+
+SpecificationManager::~SpecificationManager()
+{
+    m_registry->close();
+}
 
 SpecificationManager &SpecificationManager::shared()
 {
     static SpecificationManager manager;
-    // Entries show what they relate to, wherever that is.
-    static const bool isListed = [] {
-        EntryDirectory::setLookup([](const QString &label) { return manager.entry(label); });
-        return true;
-    }();
-    Q_UNUSED(isListed);
     return manager;
+}
+
+void SpecificationManager::adopt(Specification &specification)
+{
+    specification.setRegistry(m_registry);
+}
+
+void SpecificationManager::release(Specification &specification)
+{
+    // It may be held twice, and another manager may have taken it over.
+    const bool isHeld = specificationWhere([&](const Specification &candidate) {
+                            return &candidate == &specification;
+                        }) != nullptr;
+    if (!isHeld && specification.registry() == m_registry)
+        specification.setRegistry(nullptr);
 }
 
 void SpecificationManager::setSpecifications(std::vector<SpecificationPtr> specifications)
 {
-    m_specifications = std::move(specifications);
+    const auto former = std::exchange(m_specifications, std::move(specifications));
+    for (const SpecificationPtr &specification : former)
+        release(*specification);
+    for (const SpecificationPtr &specification : m_specifications)
+        adopt(*specification);
     updateOrderAndPrimary();
 }
 
 void SpecificationManager::registerSpecification(const SpecificationPtr &specification)
 {
     m_specifications.push_back(specification);
+    adopt(*specification);
     updateOrderAndPrimary();
     assignExistingAuxiliaryFiles(*specification);
 }

@@ -19,12 +19,16 @@
 namespace Tavrin
 {
 
+class ManagedRegistry;
+class ViewControllerFactory;
+
 /// The one registry of the specifications that a process has loaded.
 ///
 /// The host registers maps at start-up, says which specification is primary, and asks for entries
 /// by label. Look-ups ask the primary specification first, then the others in list order.
 /// Everything runs synchronously on the caller's thread, and no two threads may use a manager at
-/// once.
+/// once. A specification learns from the manager that registered it last of the others beside it,
+/// as long as both are there.
 ///
 /// Files that the user imports are copied into a directory of the host's own, the store, and bound
 /// to the specification that recognises them. Nothing on disk says which: when a specification is
@@ -138,6 +142,9 @@ public:
     /// Throws SetupError if none does, and passes on what recognising and binding throw.
     SpecificationPtr bindAuxiliaryFile(const QUrl &url);
 
+    /// The specification that a file is bound to, or null.
+    SpecificationPtr specificationBoundTo(const QUrl &file) const;
+
     /// Null while nothing is registered, or if the predicate finds none.
     const SpecificationPtr &primarySpecification() const { return m_primarySpecification; }
     /// Lasts until the list, the comparators or the predicate change.
@@ -169,6 +176,12 @@ public:
     EntryPtr entryWhere(const EntryPredicate &predicate) const;
 
     static bool acceptAll(const Specification &) { return true; }
+
+    /// Who makes the views of this manager and of its specifications: the installed factory, unless
+    /// another is set. Null without windows.
+    ViewControllerFactory *viewControllerFactory() const;
+    /// Null for the installed one.
+    void setViewControllerFactory(std::shared_ptr<ViewControllerFactory> factory);
 
     /// Shows detail views, and the prompts in their place. Empty at first: then there are none.
     const DisplayBlock &detailViewControllerDisplayBlock() const { return m_detailDisplayBlock; }
@@ -214,13 +227,15 @@ public:
     void showAuxiliaryFileBrowser();
 
 private:
+    void adopt(Specification &specification);
+    void release(Specification &specification);
+    ViewControllerFactory *views() const;
     void updateOrderAndPrimary();
     void sortSpecifications();
     void updatePrimarySpecification();
     bool isOrderedBefore(const Specification &a, const Specification &b) const;
     std::vector<SpecificationPtr> lookupOrder() const;
     SpecificationPtr specificationFor(const QUrl &url) const;
-    bool isBound(const QUrl &url) const;
     void rebuildSpecification(const QUrl &boundFile);
     void postAuxiliaryFilesChanged();
     bool isAnySpecificationSatisfied() const;
@@ -234,6 +249,8 @@ private:
     SpecificationPredicate m_primarySpecificationPredicate;
     std::vector<Comparator> m_specComparators;
     std::optional<std::vector<QUrl>> m_auxiliaryFiles;
+    std::shared_ptr<ManagedRegistry> m_registry;
+    std::shared_ptr<ViewControllerFactory> m_factory;
     DisplayBlock m_detailDisplayBlock;
     DisplayBlock m_browserDisplayBlock;
     std::optional<QString> m_browserHelpText;

@@ -19,13 +19,6 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-bool hasBound(const Specification &specification, const QUrl &url)
-{
-    const auto &requirements = specification.auxiliaryFileRequirements();
-    return std::any_of(requirements.begin(), requirements.end(),
-                       [&](const auto &requirement) { return requirement->fileURL == url; });
-}
-
 /// Whether the file is the specification's now. An error is one more reason not to have it.
 bool claims(Specification &specification, const QUrl &url)
 {
@@ -77,7 +70,7 @@ void SpecificationManager::assignExistingAuxiliaryFiles(Specification &specifica
     // A copy, since what claims a file may change the list.
     const std::vector<QUrl> files = auxiliaryFiles();
     for (const QUrl &file : files) {
-        if (!isBound(file) && claims(specification, file))
+        if (!specificationBoundTo(file) && claims(specification, file))
             return;
     }
 }
@@ -143,21 +136,27 @@ SpecificationManager::SpecificationPtr SpecificationManager::specificationFor(co
     return *it;
 }
 
-bool SpecificationManager::isBound(const QUrl &url) const
+SpecificationManager::SpecificationPtr
+SpecificationManager::specificationBoundTo(const QUrl &file) const
 {
-    return std::any_of(m_specifications.begin(), m_specifications.end(),
-                       [&](const SpecificationPtr &spec) { return hasBound(*spec, url); });
+    return specificationWhere([&file](const Specification &specification) {
+        const auto &requirements = specification.auxiliaryFileRequirements();
+        return std::any_of(requirements.begin(), requirements.end(),
+                           [&](const auto &requirement) { return requirement->fileURL == file; });
+    });
 }
 
 void SpecificationManager::rebuildSpecification(const QUrl &boundFile)
 {
-    const auto it =
-        std::find_if(m_specifications.begin(), m_specifications.end(),
-                     [&](const SpecificationPtr &spec) { return hasBound(*spec, boundFile); });
-    if (it == m_specifications.end() || !(*it)->specMapURL())
+    const SpecificationPtr old = specificationBoundTo(boundFile);
+    if (!old || !old->specMapURL())
         return;
     try {
-        *it = Specification::withStructureFile(*(*it)->specMapURL(), (*it)->dtdURL());
+        const SpecificationPtr fresh =
+            Specification::withStructureFile(*old->specMapURL(), old->dtdURL());
+        *std::find(m_specifications.begin(), m_specifications.end(), old) = fresh;
+        release(*old);
+        adopt(*fresh);
     } catch (const std::exception &error) {
         qCWarning(managerLog).noquote()
             << "Error re-loading the specification after deleting its auxiliary file:"

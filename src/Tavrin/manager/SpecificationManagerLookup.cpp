@@ -17,15 +17,6 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-/// Null, with a line in the log, in a process without windows.
-ViewControllerFactory *views()
-{
-    auto *factory = ViewControllerFactory::installed();
-    if (!factory)
-        qCWarning(managerLog) << "No view can be made, since Tavrin::Widgets isn't linked";
-    return factory;
-}
-
 void logMissingLabel(const QString &label)
 {
     qCWarning(managerLog).noquote() << "Could not find label" << label << "in any specification";
@@ -60,6 +51,25 @@ QString promptText(bool isAnythingImported, bool offersImport)
 }
 
 } // namespace
+
+ViewControllerFactory *SpecificationManager::viewControllerFactory() const
+{
+    return m_factory ? m_factory.get() : ViewControllerFactory::installed();
+}
+
+void SpecificationManager::setViewControllerFactory(std::shared_ptr<ViewControllerFactory> factory)
+{
+    m_factory = std::move(factory);
+}
+
+/// Null, with a line in the log, in a process without windows.
+ViewControllerFactory *SpecificationManager::views() const
+{
+    auto *factory = viewControllerFactory();
+    if (!factory)
+        qCWarning(managerLog) << "No view can be made, since Tavrin::Widgets isn't linked";
+    return factory;
+}
 
 void SpecificationManager::setDetailViewControllerDisplayBlock(DisplayBlock block)
 {

@@ -6,6 +6,7 @@
 #include <Tavrin/model/SpecMapText.h>
 #include <Tavrin/model/SpecMapWriter.h>
 #include <Tavrin/model/SpecURL.h>
+#include <Tavrin/model/SpecificationRegistry.h>
 #include <Tavrin/model/ViewControllerFactory.h>
 #include <Tavrin/model/XMLBoolean.h>
 #include <Tavrin/model/XMLError.h>
@@ -22,7 +23,7 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-std::vector<SpecTypeDefinition> &registry()
+std::vector<SpecTypeDefinition> &specTypes()
 {
     static std::vector<SpecTypeDefinition> rows{builtinSpecTypeDefinition()};
     return rows;
@@ -91,7 +92,7 @@ std::shared_ptr<Specification> Specification::withStructureFile(const QUrl &map,
 {
     const MapReading once;
     const auto probe = make<Specification>(map, dtd);
-    const auto &rows = registry();
+    const auto &rows = specTypes();
     const auto row = std::find_if(rows.begin(), rows.end(), [&probe](const auto &definition) {
         return definition.predicate(*probe);
     });
@@ -101,7 +102,7 @@ std::shared_ptr<Specification> Specification::withStructureFile(const QUrl &map,
 void Specification::registerSpecType(const SpecType &type, bool prioritize,
                                      std::function<bool(const Specification &)> where)
 {
-    auto &rows = registry();
+    auto &rows = specTypes();
     rows.insert(prioritize ? rows.begin() : rows.end(), {type, std::move(where)});
 }
 
@@ -472,11 +473,31 @@ bool Specification::assignAuxiliaryFile(const QUrl & /*url*/,
     return false;
 }
 
+// Others
+
+std::shared_ptr<const SpecificationRegistry> Specification::registry() const
+{
+    const std::scoped_lock lock(m_registryMutex);
+    return m_registry.lock();
+}
+
+void Specification::setRegistry(const std::shared_ptr<const SpecificationRegistry> &registry)
+{
+    const std::scoped_lock lock(m_registryMutex);
+    m_registry = registry;
+}
+
+ViewControllerFactory *Specification::viewControllerFactory() const
+{
+    const auto keeper = registry();
+    return keeper ? keeper->viewControllerFactory() : ViewControllerFactory::installed();
+}
+
 // Views
 
 ViewControllerPtr Specification::summaryViewController(const QString &label)
 {
-    auto *factory = ViewControllerFactory::installed();
+    auto *factory = viewControllerFactory();
     if (!factory || !areFileRequirementsSatisfied())
         return nullptr;
     const EntryPtr found = entry(label);

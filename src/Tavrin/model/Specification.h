@@ -6,6 +6,7 @@
 
 #include <functional>
 #include <memory>
+#include <mutex>
 #include <optional>
 #include <shared_mutex>
 #include <type_traits>
@@ -23,6 +24,9 @@
 
 namespace Tavrin
 {
+
+class SpecificationRegistry;
+class ViewControllerFactory;
 
 /// A published specification, as a spec map describes it: its identity, the files it needs, and
 /// its table of entries.
@@ -165,6 +169,12 @@ public:
     /// Does what binding takes, opening the file for example; true if the requirement is met.
     virtual bool assignAuxiliaryFile(const QUrl &url, const AuxiliaryFileRequirement &requirement);
 
+    /// Who keeps this specification, for what is asked of others than itself; null while nobody
+    /// does, and once that one is gone. Any thread.
+    std::shared_ptr<const SpecificationRegistry> registry() const;
+    /// For those who keep specifications: on registering, and null on giving up.
+    void setRegistry(const std::shared_ptr<const SpecificationRegistry> &registry);
+
     /// A summary of the entry for a label or spec URL; null if there is none, a file is missing, or
     /// the process has no windows. Main thread.
     virtual ViewControllerPtr summaryViewController(const QString &label);
@@ -187,6 +197,10 @@ protected:
         m_requirements.push_back(requirement);
     }
 
+    /// Who makes views of this specification: its registry's factory, without a registry the
+    /// installed one. Null without windows.
+    ViewControllerFactory *viewControllerFactory() const;
+
 private:
     void readRequirements(const HostXMLDocument &document);
     void readRootAttributes(const HostXMLNode &root);
@@ -207,6 +221,8 @@ private:
     /// Held by changes of the table, and shared by searches.
     mutable std::shared_mutex m_tableMutex;
     AuxiliaryFileRequirements m_requirements;
+    std::weak_ptr<const SpecificationRegistry> m_registry;
+    mutable std::mutex m_registryMutex;
 };
 
 } // namespace Tavrin

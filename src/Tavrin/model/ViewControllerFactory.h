@@ -17,8 +17,8 @@ namespace Tavrin
 class Specification;
 class SpecificationEntry;
 
-/// Makes views for those who know no windows. Tavrin::Widgets installs one when it is loaded; a
-/// process without windows has none. Main thread.
+/// Makes views for those who know no windows. Tavrin::Widgets installs one when it is loaded, which
+/// managers take unless they are given another; a process without windows has none. Main thread.
 class TAVRIN_CORE_EXPORT ViewControllerFactory
 {
 public:
@@ -37,7 +37,8 @@ public:
     /// Has a detail view mark references each time it appears. False if it is no detail view.
     virtual bool showReferenceCoverage(ViewController &detail,
                                        const ReferenceCoverage &coverage) = 0;
-    /// A document was bound to the specification: views of it may be wanted soon.
+    /// A document was bound to the specification: views of it may be wanted soon. It may be in the
+    /// middle of being registered.
     virtual void documentBound(const std::shared_ptr<Specification> &specification);
 
     /// Null without windows.

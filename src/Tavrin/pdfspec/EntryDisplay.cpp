@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <Tavrin/pdfspec/EntryDisplay.h>
 
-#include <Tavrin/model/EntryDirectory.h>
 #include <Tavrin/model/SpecURL.h>
+#include <Tavrin/model/SpecificationRegistry.h>
 #include <Tavrin/platform/StringLocalizer.h>
 #include <Tavrin/platform/SystemFont.h>
 
@@ -71,10 +71,11 @@ EntryDisplayItem EntryDisplay::moreItem(const Specification *specification) cons
 QVariantList EntryDisplay::relatedTexts(Specification *specification) const
 {
     QVariantList texts;
+    const auto registry = specification ? specification->registry() : nullptr;
     for (const QString &label : m_entry.relatedEntries()) {
         auto found = specification ? specification->entry(label) : nullptr;
-        if (!found)
-            found = EntryDirectory::entry(label);
+        if (!found && registry)
+            found = registry->entry(label);
         if (found)
             texts.append(QVariant::fromValue(linkText(found->displayTitle(), label)));
     }

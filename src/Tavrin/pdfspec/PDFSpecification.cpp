@@ -134,7 +134,7 @@ QString PDFSpecification::generateURL(const SpecificationEntry &entry, bool cons
 
 ViewControllerPtr PDFSpecification::detailViewController(const std::optional<QString> &label)
 {
-    auto *factory = ViewControllerFactory::installed();
+    auto *factory = viewControllerFactory();
     if (!factory || !areFileRequirementsSatisfied())
         return nullptr;
     const EntryPtr found = label ? entry(*label) : nullptr;

@@ -156,7 +156,7 @@ void PDFSpecification::loadPDFDocument(const QUrl &url)
 
 void PDFSpecification::tellBound()
 {
-    auto *factory = ViewControllerFactory::installed();
+    auto *factory = viewControllerFactory();
     if (const auto self = factory ? weak_from_this().lock() : nullptr)
         factory->documentBound(self);
 }

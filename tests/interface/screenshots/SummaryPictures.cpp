@@ -22,12 +22,7 @@ namespace
 class Scene : public SummaryFixture
 {
 public:
-    explicit Scene(Studio &studio) : m_studio(studio)
-    {
-        bind();
-        EntryDirectory::setLookup(
-            [this](const QString &label) { return specification->entry(label); });
-    }
+    explicit Scene(Studio &studio) : m_studio(studio) { bind(); }
     ~Scene() override { TearDown(); }
 
     void take(const QString &name, const ViewControllerPtr &controller, QSize size = {760, 520},
@@ -112,7 +107,6 @@ void takeRealDocument(Studio &studio, Scene &scene)
 {
     SpecificationManager manager;
     const auto specification = studio.bindSample(manager, u"slepc"_s);
-    EntryDirectory::setLookup([&](const QString &label) { return manager.entry(label); });
     QStringList taken;
     for (const auto &entry : specification->entries()) {
         if (entry->number().isEmpty() || taken.count(description(entry->type())) > 1)

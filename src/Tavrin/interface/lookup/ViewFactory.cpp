@@ -6,7 +6,7 @@
 #include <Tavrin/interface/lookup/PromptViewController.h>
 #include <Tavrin/interface/summary/SpecEntrySummaryViewController.h>
 #include <Tavrin/interface/toolkit/InterfaceLog.h>
-#include <Tavrin/manager/SpecificationManager.h>
+#include <Tavrin/model/SpecificationRegistry.h>
 #include <Tavrin/pdfspec/PDFSpecification.h>
 #include <Tavrin/platform/BackgroundPool.h>
 #include <Tavrin/platform/PoolTask.h>
@@ -86,11 +86,11 @@ bool ViewFactory::showReferenceCoverage(ViewController &detail, const ReferenceC
 void ViewFactory::documentBound(const std::shared_ptr<Specification> &specification)
 {
     // Once all are bound, it is known which is the primary one.
-    postTask([bound = std::weak_ptr(specification)] {
-        const auto primary = std::dynamic_pointer_cast<PDFSpecification>(
-            SpecificationManager::shared().primarySpecification());
-        if (primary && primary == bound.lock())
-            measure(primary);
+    postTask([weak = std::weak_ptr(specification)] {
+        const auto bound = std::dynamic_pointer_cast<PDFSpecification>(weak.lock());
+        const auto registry = bound ? bound->registry() : nullptr;
+        if (registry && registry->primarySpecification() == bound)
+            measure(bound);
     });
 }
 

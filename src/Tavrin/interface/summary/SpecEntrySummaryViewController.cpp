@@ -6,8 +6,8 @@
 #include <Tavrin/interface/toolkit/InterfaceLog.h>
 #include <Tavrin/interface/toolkit/TableScrollView.h>
 #include <Tavrin/manager/SpecificationManager.h>
-#include <Tavrin/model/EntryDirectory.h>
 #include <Tavrin/model/SpecURL.h>
+#include <Tavrin/model/SpecificationRegistry.h>
 #include <Tavrin/pdfspec/PDFSpecificationEntry.h>
 #include <Tavrin/platform/StringLocalizer.h>
 
@@ -336,8 +336,9 @@ void SpecEntrySummaryViewController::summaryCellClickedLink(const QString &desti
     // Looking up a URL whose lines end before they begin would be a fault of ours.
     if (!SpecURL::hasReversedLines(destination)) {
         found = specification ? specification->entry(destination) : nullptr;
-        if (!found)
-            found = EntryDirectory::entry(destination);
+        const auto registry = specification ? specification->registry() : nullptr;
+        if (!found && registry)
+            found = registry->entry(destination);
     }
     if (const auto owner = found ? found->specification() : nullptr) {
         showDetailView(destination, owner);
