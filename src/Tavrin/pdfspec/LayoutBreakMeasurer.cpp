@@ -48,11 +48,11 @@ struct LayoutBreakMeasurer::PageView {
     /// Where the tables that leave no doubt stand, once somebody asked.
     std::optional<CaptionSurroundings::Side> tableSide = std::nullopt;
 
-    PageView(const PDFSpecification &specification, std::shared_ptr<HostPDFPage> hostPage)
+    PageView(const PrintReader &print, std::shared_ptr<HostPDFPage> hostPage)
         : page(std::move(hostPage)),
-          known(specification.pageLines(*page)),
+          known(print.pageLines(*page)),
           lines(*known),
-          box(page->geometry().toUpright(specification.readingArea(*page))),
+          box(page->geometry().toUpright(print.specification().readingArea(*page))),
           bodyWidth(lines.width())
     {
     }
@@ -83,8 +83,8 @@ struct LayoutBreakMeasurer::PageView {
     }
 };
 
-LayoutBreakMeasurer::LayoutBreakMeasurer(const PDFSpecification &specification)
-    : m_specification(specification)
+LayoutBreakMeasurer::LayoutBreakMeasurer(const PrintReader &print)
+    : m_print(print), m_specification(print.specification())
 {
 }
 
@@ -94,11 +94,10 @@ LayoutBreakMeasurer::PageView *LayoutBreakMeasurer::view(int index)
         if (known && known->page->index() == index)
             return known.get();
     }
-    auto page = m_specification.document()->page(index);
+    auto page = m_print.document()->page(index);
     if (!page)
         return nullptr;
-    m_views[1] =
-        std::exchange(m_views[0], std::make_shared<PageView>(m_specification, std::move(page)));
+    m_views[1] = std::exchange(m_views[0], std::make_shared<PageView>(m_print, std::move(page)));
     m_views[0]->kinds = kinds(*m_views[0]);
     return m_views[0].get();
 }
@@ -243,7 +242,7 @@ std::vector<Kind> LayoutBreakMeasurer::kinds(const PageView &view)
         for (const EntryPtr &entry :
              m_specification.sortedDestinations()[static_cast<std::size_t>(index)]) {
             const auto heading =
-                isTextual(entry->type()) ? m_specification.sectionHeading(*entry) : std::nullopt;
+                isTextual(entry->type()) ? m_print.sectionHeading(*entry) : std::nullopt;
             if (heading && heading->page == page)
                 headings.push_back(*heading);
         }
@@ -263,10 +262,10 @@ Kind LayoutBreakMeasurer::bodyKind(const PageView &view, const PageLine &line)
 {
     // Most pages have no figure, and of a section alone the shape need not be known.
     if (!m_body)
-        m_body = m_specification.bodyShape();
+        m_body = m_print.bodyShape();
     if (!m_body->isBodyFont(line.font))
         return Kind::Free;
-    const Rect start = m_body->movedToMargin(line.start, *view.page, m_specification.leftMargin());
+    const Rect start = m_body->movedToMargin(line.start, *view.page, m_print.leftMargin());
     // Lists and quotations stand off the margin and are body all the same.
     const bool isBody = !m_specification.isLinePartOfLayoutBreak(start, *view.page) ||
                         beginsListItem(view.lines.string(line)) ||

@@ -8,6 +8,7 @@
 #include <Tavrin/pdfspec/BodyShape.h>
 #include <Tavrin/pdfspec/CaptionFinder.h>
 #include <Tavrin/pdfspec/EntryPageInfo.h>
+#include <Tavrin/pdfspec/PrintReader.h>
 #include <Tavrin/pdfspec/RegionGrower.h>
 
 namespace Tavrin
@@ -24,7 +25,7 @@ public:
     using EntryPtr = std::shared_ptr<PDFSpecification::Entry>;
     using Callback = std::function<void(const EntryPtr &entry, const EntryPageInfo &region)>;
 
-    explicit LayoutBreakMeasurer(const PDFSpecification &specification);
+    explicit LayoutBreakMeasurer(const PrintReader &print);
 
     /// Reports the regions of the figures and tables whose place is on the page, in the order of
     /// their places. One whose caption isn't found is left out.
@@ -50,6 +51,7 @@ private:
     /// Whether the line begins as the caption of a figure or table of these pages.
     bool isCaption(const PageView &view, const PageLine &line) const;
 
+    const PrintReader &m_print;
     const PDFSpecification &m_specification;
     /// Null until it is asked for.
     std::shared_ptr<const BodyShape> m_body;

@@ -7,7 +7,7 @@
 #include <Tavrin/pdfspec/InternalLink.h>
 #include <Tavrin/pdfspec/PDFSpecificationEntry.h>
 #include <Tavrin/pdfspec/PageTreeReader.h>
-#include <Tavrin/pdfspec/ReadingCache.h>
+#include <Tavrin/pdfspec/PrintReader.h>
 #include <Tavrin/platform/DecimalForm.h>
 #include <Tavrin/platform/Logging.h>
 #include <Tavrin/platform/StandardError.h>
@@ -31,18 +31,16 @@ bool beginsBefore(const PDFEntryPtr &a, const PDFEntryPtr &b)
     return std::is_lt(a->destination()->compare(*b->destination()));
 }
 
-} // namespace
-
 /// Turns each form of link into a place.
-struct PDFSpecification::LinkResolver {
+struct LinkResolver {
     using Place = std::optional<HostPDFDestination>;
 
     const PDFSpecification &specification;
-    PageRects *pageRects;
+    PDFSpecification::PageRects *pageRects;
 
     Place at(int page, Point point) const
     {
-        const auto &document = specification.m_cachingDocument;
+        const auto &document = specification.document();
         auto hostPage = document ? document->page(page) : nullptr;
         return hostPage ? Place(HostPDFDestination(std::move(hostPage), point)) : std::nullopt;
     }
@@ -68,7 +66,7 @@ struct PDFSpecification::LinkResolver {
 
     Place operator()(const InternalLink::Named &link) const
     {
-        const auto &places = specification.m_linkDestinationMapping;
+        const auto &places = specification.linkDestinationMapping();
         const auto place = places.constFind(link.name);
         return place == places.constEnd() ? std::nullopt : Place(*place);
     }
@@ -80,6 +78,8 @@ struct PDFSpecification::LinkResolver {
     }
 };
 
+} // namespace
+
 PDFSpecification::ParseError::ParseError(Kind errorKind, const QString &text)
     : std::runtime_error(text.isEmpty() ? "the PDF has no readable structure" : text.toStdString()),
       kind(errorKind),
@@ -87,7 +87,7 @@ PDFSpecification::ParseError::ParseError(Kind errorKind, const QString &text)
 {
 }
 
-PDFSpecification::PDFSpecification() : m_reading(std::make_unique<ReadingCache>()) {}
+PDFSpecification::PDFSpecification() : m_print(std::make_unique<PrintReader>(*this)) {}
 PDFSpecification::~PDFSpecification() = default;
 
 EntryClass PDFSpecification::entryClass() const
@@ -202,7 +202,7 @@ void PDFSpecification::loadPDFStructure(const std::shared_ptr<HostPDFDocument> &
         return;
     const std::unique_lock lock(m_bindingMutex);
     m_cachingDocument = caching;
-    m_reading->forgetPages();
+    m_print->forgetPages();
     const std::shared_ptr<const PDFObjectParser> parser(caching, &caching->objects());
     const auto handle = parser->catalog();
     if (!handle)
@@ -276,7 +276,7 @@ void PDFSpecification::loadPDFEntryMetadata(const HostPDFDocument &document)
     for (auto &page : places)
         std::stable_sort(page.begin(), page.end(), beginsBefore);
     m_sortedDestinations = std::move(places);
-    m_reading->forgetPages();
+    m_print->forgetPages();
 }
 
 std::vector<PDFDictionaryPtr> PDFSpecification::readPageTree(const PDFDictionaryPtr &node) const

@@ -30,9 +30,7 @@
 namespace Tavrin
 {
 
-class BodyShape;
-class PageLines;
-class ReadingCache;
+class PrintReader;
 
 /// A specification whose entries live in a PDF that the user imported.
 ///
@@ -291,11 +289,7 @@ protected:
     void readPageBounds(const QString &readInfo);
 
 private:
-    friend class LayoutBreakMeasurer;
-    friend class SectionHeadingFinder;
-    friend class SectionTextCutter;
     struct AuxFileMetadata;
-    struct LinkResolver;
 
     std::optional<AuxFileMetadata> loadPDFFileMetadata(const QUrl &url) const;
     bool recognisesCandidate(const AuxFileMetadata &metadata,
@@ -303,17 +297,6 @@ private:
     void tellBound();
     void readNamedDestinations(const PDFDictionary &catalog,
                                const std::shared_ptr<CachingPDFDocument> &document);
-    std::optional<EntryPageInfo> graphicalRects(const Entry &entry) const;
-    std::optional<EntryPageInfo> textualRects(const Entry &entry) const;
-    std::optional<EntryPageInfo> searchedRects(const Entry &entry) const;
-    bool holds(const Entry &entry, const HostPDFDestination &place) const;
-    std::optional<SectionHeading> sectionHeading(const Entry &entry) const;
-    std::optional<HostPDFDestination> linkDestination(const PDFObjectPtr &destination) const;
-    /// Only while a document is bound.
-    std::shared_ptr<const BodyShape> bodyShape() const;
-    std::shared_ptr<const PageLines> pageLines(const HostPDFPage &page) const;
-    /// For each of them, whether it can be a heading.
-    std::shared_ptr<const std::vector<bool>> headingLines(const HostPDFPage &page) const;
 
     PDFReadingPolicy m_readingPolicy = PDFReadingPolicy::Strict;
     std::shared_ptr<CachingPDFDocument> m_cachingDocument;
@@ -325,7 +308,7 @@ private:
     std::shared_ptr<const AuxFileMetadata> m_candidate;
     std::optional<Rect> m_pageBounds;
     mutable std::optional<QMap<QString, HostPDFOutline>> m_documentOutline;
-    std::unique_ptr<ReadingCache> m_reading;
+    std::unique_ptr<PrintReader> m_print;
     mutable std::shared_mutex m_bindingMutex;
 };
 

@@ -11,7 +11,7 @@
 
 #include <Tavrin/model/ViewControllerFactory.h>
 #include <Tavrin/pdfspec/FirstPageMemory.h>
-#include <Tavrin/pdfspec/ReadingCache.h>
+#include <Tavrin/pdfspec/PrintReader.h>
 #include <Tavrin/pdfspec/VerifierText.h>
 #include <Tavrin/platform/DecimalForm.h>
 #include <Tavrin/platform/HostPDFError.h>
@@ -125,7 +125,7 @@ void PDFSpecification::setPageBounds(const std::optional<Rect> &bounds)
 {
     const std::unique_lock lock(m_bindingMutex);
     m_pageBounds = bounds;
-    m_reading->forgetPages();
+    m_print->forgetPages();
 }
 
 void PDFSpecification::readPageBounds(const QString &readInfo)

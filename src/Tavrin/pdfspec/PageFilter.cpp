@@ -35,7 +35,10 @@ void setLink(StyledText &text, TextRange range, const QString &url)
 
 } // namespace
 
-PageFilter::PageFilter(const PDFSpecification &specification) : m_specification(specification) {}
+PageFilter::PageFilter(const PrintReader &print)
+    : m_print(print), m_specification(print.specification())
+{
+}
 
 std::shared_ptr<FilteredPage> PageFilter::filter(const HostPDFPage &page) const
 {
@@ -68,7 +71,7 @@ std::vector<Rect> PageFilter::regions(int page) const
     // A region can begin on the page before, or with an entry whose place stayed behind there.
     std::vector<Rect> rects;
     for (int index = page - 1; index <= page; ++index) {
-        for (const auto &[entry, info] : m_specification.layoutBreaks(index)) {
+        for (const auto &[entry, info] : m_print.layoutBreaks(index)) {
             const auto it = info.pageRects.find(page);
             if (it != info.pageRects.end())
                 rects.push_back(it->second);

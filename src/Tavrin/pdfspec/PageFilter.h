@@ -4,8 +4,7 @@
 #include <memory>
 
 #include <Tavrin/pdfspec/LinkRecord.h>
-#include <Tavrin/pdfspec/PDFSpecification.h>
-#include <Tavrin/pdfspec/PageTextSequence.h>
+#include <Tavrin/pdfspec/PrintReader.h>
 
 namespace Tavrin
 {
@@ -17,7 +16,7 @@ namespace Tavrin
 class PageFilter
 {
 public:
-    explicit PageFilter(const PDFSpecification &specification);
+    explicit PageFilter(const PrintReader &print);
 
     std::shared_ptr<FilteredPage> filter(const HostPDFPage &page) const;
 
@@ -27,6 +26,7 @@ private:
     QString url(const LinkRecord &record) const;
     std::vector<Rect> regions(int page) const;
 
+    const PrintReader &m_print;
     const PDFSpecification &m_specification;
 };
 

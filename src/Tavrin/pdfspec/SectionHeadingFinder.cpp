@@ -50,14 +50,14 @@ struct SectionHeadingFinder::Hit {
     }
 };
 
-SectionHeadingFinder::SectionHeadingFinder(const PDFSpecification &specification)
-    : m_specification(specification)
+SectionHeadingFinder::SectionHeadingFinder(const PrintReader &print)
+    : m_print(print), m_specification(print.specification())
 {
 }
 
 std::optional<SectionHeading> SectionHeadingFinder::find(const PDFSpecification::Entry &entry) const
 {
-    const auto &document = m_specification.document();
+    const auto &document = m_print.document();
     const auto &place = entry.destination();
     if (!document || !place || !place->page())
         return std::nullopt;
@@ -66,7 +66,7 @@ std::optional<SectionHeading> SectionHeadingFinder::find(const PDFSpecification:
         const auto page = document->page(index);
         if (!page)
             continue;
-        const auto lines = m_specification.pageLines(*page);
+        const auto lines = m_print.pageLines(*page);
         const bool isOnPage = index == first;
         const double top = isOnPage ? page->geometry().toUpright(place->point()).y
                                     : page->geometry().uprightSize().height;
@@ -83,7 +83,7 @@ SectionHeadingFinder::bestHit(const PDFSpecification::Entry &entry, const HostPD
     std::optional<Hit> best;
     // Running heads repeat the titles of sections.
     const Rect area = page.geometry().toUpright(m_specification.readingArea(page));
-    const auto isHeading = m_specification.headingLines(page);
+    const auto isHeading = m_print.headingLines(page);
     for (std::size_t i = 0; i < lines.size(); ++i) {
         const double above = lines[i].bounds.maxY() - top;
         if (above > reach || !(*isHeading)[i] || !area.contains(lines[i].bounds.center()))
@@ -152,7 +152,7 @@ SectionHeading SectionHeadingFinder::heading(const HostPDFPage &page, const Page
 
 qsizetype SectionHeadingFinder::firstPositionBelow(const HostPDFDestination &place) const
 {
-    const auto lines = m_specification.pageLines(*place.page());
+    const auto lines = m_print.pageLines(*place.page());
     const double top = place.page()->geometry().toUpright(place.point()).y;
     qsizetype position = lines->text().length();
     for (const PageLine &line : *lines) {

@@ -3,9 +3,7 @@
 
 #include <optional>
 
-#include <Tavrin/pdfspec/HeadingPageInfo.h>
-#include <Tavrin/pdfspec/PDFSpecificationEntry.h>
-#include <Tavrin/pdfspec/PageLines.h>
+#include <Tavrin/pdfspec/PrintReader.h>
 
 namespace Tavrin
 {
@@ -19,7 +17,7 @@ namespace Tavrin
 class SectionHeadingFinder
 {
 public:
-    explicit SectionHeadingFinder(const PDFSpecification &specification);
+    explicit SectionHeadingFinder(const PrintReader &print);
 
     std::optional<SectionHeading> find(const PDFSpecification::Entry &entry) const;
 
@@ -37,6 +35,7 @@ private:
                              std::size_t first) const;
     SectionHeading heading(const HostPDFPage &page, const PageLines &lines, const Hit &hit) const;
 
+    const PrintReader &m_print;
     const PDFSpecification &m_specification;
 };
 

@@ -4,6 +4,7 @@
 #include <Tavrin/pdfspec/EntryExtractionError.h>
 #include <Tavrin/pdfspec/EntryNavigator.h>
 #include <Tavrin/pdfspec/FlatText.h>
+#include <Tavrin/pdfspec/SectionHeadingFinder.h>
 
 #include <algorithm>
 
@@ -35,8 +36,8 @@ void addMappings(const FilteredPage &page, int pageIndex, TextRange cut, qsizety
 
 } // namespace
 
-SectionTextCutter::SectionTextCutter(const PDFSpecification &specification)
-    : m_specification(specification)
+SectionTextCutter::SectionTextCutter(const PrintReader &print)
+    : m_print(print), m_specification(print.specification())
 {
 }
 
@@ -44,9 +45,9 @@ HeadingPageInfo SectionTextCutter::findHeadings(const PDFSpecification::Entry &e
                                                 int startPage) const
 {
     HeadingPageInfo info;
-    const auto own = m_specification.sectionHeading(entry);
+    const auto own = m_print.sectionHeading(entry);
     if (!own) {
-        const auto text = m_specification.document()->textForPage(startPage);
+        const auto text = m_print.document()->textForPage(startPage);
         throw EntryExtractionError(EntryExtractionError::Kind::EntryTitleNotFound, entry.title(),
                                    startPage, text ? text->left(excerpt) : u"<unavailable>"_s);
     }
@@ -56,15 +57,14 @@ HeadingPageInfo SectionTextCutter::findHeadings(const PDFSpecification::Entry &e
     const auto next = EntryNavigator(m_specification).nextTextual(entry);
     if (!next)
         return info;
-    if (const auto heading = m_specification.sectionHeading(*next)) {
+    if (const auto heading = m_print.sectionHeading(*next)) {
         info.nextHeadingPageIndex = heading->page;
         info.nextHeadingText = heading->flatText;
         info.nextHeadingRange = {heading->start, heading->range.end() - heading->start};
     } else {
         const auto &place = *next->destination();
         info.nextHeadingPageIndex = place.page()->index();
-        info.nextHeadingRange = {SectionHeadingFinder(m_specification).firstPositionBelow(place),
-                                 0};
+        info.nextHeadingRange = {SectionHeadingFinder(m_print).firstPositionBelow(place), 0};
     }
     return info;
 }
@@ -74,7 +74,7 @@ PageTextSequence SectionTextCutter::sequence(const HeadingPageInfo &headings) co
     PageTextSequence pages;
     const int last = std::max(headings.headingPageIndex, headings.nextHeadingPageIndex);
     for (int index = headings.headingPageIndex; index <= last; ++index) {
-        if (auto page = m_specification.filteredPage(index))
+        if (auto page = m_print.filteredPage(index))
             pages.emplace(index, std::move(page));
     }
     return pages;

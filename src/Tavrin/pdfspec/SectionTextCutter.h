@@ -3,10 +3,7 @@
 
 #include <vector>
 
-#include <Tavrin/pdfspec/HeadingPageInfo.h>
-#include <Tavrin/pdfspec/PDFSpecificationEntry.h>
-#include <Tavrin/pdfspec/PageTextSequence.h>
-#include <Tavrin/pdfspec/SectionHeadingFinder.h>
+#include <Tavrin/pdfspec/PrintReader.h>
 
 namespace Tavrin
 {
@@ -15,7 +12,7 @@ namespace Tavrin
 class SectionTextCutter
 {
 public:
-    explicit SectionTextCutter(const PDFSpecification &specification);
+    explicit SectionTextCutter(const PrintReader &print);
 
     /// Throws EntryExtractionError if the entry's own heading isn't found.
     HeadingPageInfo findHeadings(const PDFSpecification::Entry &entry, int startPage) const;
@@ -35,6 +32,7 @@ private:
     qsizetype end(const PDFSpecification::Entry &entry, const FilteredPage &page,
                   const HeadingPageInfo &headings, qsizetype from) const;
 
+    const PrintReader &m_print;
     const PDFSpecification &m_specification;
 };
 

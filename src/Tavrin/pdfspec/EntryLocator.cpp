@@ -1,11 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
-// The part of PDFSpecification that finds entries on the pages, and the way back.
-#include <Tavrin/pdfspec/PDFSpecification.h>
+#include <Tavrin/pdfspec/EntryLocator.h>
 
 #include <Tavrin/pdfspec/EntryNavigator.h>
-#include <Tavrin/pdfspec/LayoutBreakMeasurer.h>
-#include <Tavrin/pdfspec/PageLines.h>
-#include <Tavrin/pdfspec/ReadingCache.h>
 #include <Tavrin/platform/Logging.h>
 #include <Tavrin/platform/StandardError.h>
 
@@ -42,25 +38,34 @@ HostPDFDestination topLeft(const HostPDFSelection &selection,
     return HostPDFDestination(page, {bounds.minX(), bounds.maxY()});
 }
 
-} // namespace
-
-const PDFSpecification::LayoutBreaks &PDFSpecification::layoutBreaks(int page) const
+double topOf(const SectionHeading &heading, const HostPDFPage &page)
 {
-    // What the cache holds stays until another document is bound.
-    return *m_reading->get(&ReadingCache::breaks, page, [this, page] {
-        auto breaks = std::make_shared<LayoutBreaks>();
-        if (m_cachingDocument) {
-            LayoutBreakMeasurer(*this).measure(page, [&](const auto &entry, const auto &info) {
-                breaks->emplace_back(entry, info);
-            });
-        }
-        return breaks;
-    });
+    return page.selection(heading.range).bounds(page).maxY();
 }
 
-std::optional<EntryPageInfo> PDFSpecification::pageRectInfo(const Entry &entry) const
+/// The part of a page's area from a heading down to the next, as far as they stand on the page.
+Rect between(const SectionHeading &heading, const std::optional<SectionHeading> &next,
+             const HostPDFPage &page, Rect area)
 {
-    if (!m_cachingDocument) {
+    if (heading.page == page.index()) {
+        const double top = std::max(area.minY(), topOf(heading, page));
+        area = area.intersection(Rect::fromCorners(area.origin, {area.maxX(), top}));
+    }
+    if (next && next->page == page.index()) {
+        const double bottom = std::min(topOf(*next, page), area.maxY());
+        area =
+            area.intersection(Rect::fromCorners({area.minX(), bottom}, {area.maxX(), area.maxY()}));
+    }
+    return area;
+}
+
+} // namespace
+
+EntryLocator::EntryLocator(const PrintReader &print) : m_print(print) {}
+
+std::optional<EntryPageInfo> EntryLocator::rects(const Entry &entry) const
+{
+    if (!m_print.document()) {
         standardError(u"No document has been set"_s);
         return std::nullopt;
     }
@@ -71,18 +76,18 @@ std::optional<EntryPageInfo> PDFSpecification::pageRectInfo(const Entry &entry) 
     return isTextual(entry.type()) ? textualRects(entry) : graphicalRects(entry);
 }
 
-std::optional<EntryPageInfo> PDFSpecification::graphicalRects(const Entry &entry) const
+std::optional<EntryPageInfo> EntryLocator::graphicalRects(const Entry &entry) const
 {
     const auto parent = entry.parentEntry();
     const Entry *wanted = parent ? parent.get() : &entry;
-    for (const auto &[found, info] : layoutBreaks(entry.destination()->page()->index())) {
+    for (const auto &[found, info] : m_print.layoutBreaks(entry.destination()->page()->index())) {
         if (found.get() == wanted)
             return info;
     }
     return std::nullopt;
 }
 
-std::optional<EntryPageInfo> PDFSpecification::textualRects(const Entry &entry) const
+std::optional<EntryPageInfo> EntryLocator::textualRects(const Entry &entry) const
 {
     const auto selected = selection(entry);
     if (!selected || selected->isEmpty())
@@ -93,18 +98,18 @@ std::optional<EntryPageInfo> PDFSpecification::textualRects(const Entry &entry) 
     return info;
 }
 
-std::optional<EntryPageInfo> PDFSpecification::searchedRects(const Entry &entry) const
+std::optional<EntryPageInfo> EntryLocator::searchedRects(const Entry &entry) const
 {
     const int place = entry.destination()->page()->index();
-    const auto heading = sectionHeading(entry);
+    const auto heading = m_print.sectionHeading(entry);
     if (!heading) {
         standardError(
             u"Couldn't get rect for start range %1 on page %2"_s.arg(printed(TextRange::notFound()))
                 .arg(place));
         return std::nullopt;
     }
-    const auto next = EntryNavigator(*this).nextTextual(entry);
-    const auto end = next ? sectionHeading(*next) : std::nullopt;
+    const auto next = EntryNavigator(m_print.specification()).nextTextual(entry);
+    const auto end = next ? m_print.sectionHeading(*next) : std::nullopt;
     if (next && !end) {
         standardError(
             u"Couldn't get rect for end range %1 on page %2"_s.arg(printed(TextRange::notFound()))
@@ -113,20 +118,10 @@ std::optional<EntryPageInfo> PDFSpecification::searchedRects(const Entry &entry)
     EntryPageInfo info;
     const int last = std::max(heading->page, end ? end->page : heading->page);
     for (int index = heading->page; index <= last; ++index) {
-        const auto page = m_cachingDocument->page(index);
+        const auto page = m_print.document()->page(index);
         if (!page)
             continue;
-        Rect area = readingArea(*page);
-        if (index == heading->page) {
-            const double top = page->selection(heading->range).bounds(*page).maxY();
-            area = area.intersection(
-                Rect::fromCorners(area.origin, {area.maxX(), std::max(area.minY(), top)}));
-        }
-        if (end && index == end->page) {
-            const double bottom = page->selection(end->range).bounds(*page).maxY();
-            area = area.intersection(Rect::fromCorners({area.minX(), std::min(bottom, area.maxY())},
-                                                       {area.maxX(), area.maxY()}));
-        }
+        const Rect area = between(*heading, end, *page, m_print.specification().readingArea(*page));
         const HostPDFSelection inside = page->selection(area);
         if (inside.string().trimmed().isEmpty())
             continue;
@@ -141,8 +136,8 @@ std::optional<EntryPageInfo> PDFSpecification::searchedRects(const Entry &entry)
 
 // Lines
 
-std::optional<LineLocations> PDFSpecification::lineLocations(StyledTextEditing::LineRange range,
-                                                             const Entry &entry) const
+std::optional<LineLocations> EntryLocator::lineLocations(StyledTextEditing::LineRange range,
+                                                         const Entry &entry) const
 {
     const auto lines = entry.lineLocations();
     const bool has = lines && range.lower >= 0 && range.lower <= range.upper &&
@@ -153,7 +148,7 @@ std::optional<LineLocations> PDFSpecification::lineLocations(StyledTextEditing::
 }
 
 std::optional<StyledTextEditing::LineRange>
-PDFSpecification::lineRange(const HostPDFSelection &selection, const Entry &entry) const
+EntryLocator::lineRange(const HostPDFSelection &selection, const Entry &entry) const
 {
     const auto lines = entry.lineLocations();
     if (!lines || !entry.summaryText()) {
@@ -180,17 +175,16 @@ PDFSpecification::lineRange(const HostPDFSelection &selection, const Entry &entr
 }
 
 std::optional<HostPDFSelection>
-PDFSpecification::selection(const Entry &entry,
-                            std::optional<StyledTextEditing::LineRange> range) const
+EntryLocator::selection(const Entry &entry, std::optional<StyledTextEditing::LineRange> range) const
 {
-    if (!m_cachingDocument)
+    if (!m_print.document())
         return std::nullopt;
     const auto lines = range ? lineLocations(*range, entry) : entry.lineLocations();
     HostPDFSelection result;
     if (!lines)
         return result;
     for (const LineLocation &line : *lines) {
-        if (const auto page = m_cachingDocument->page(line.page))
+        if (const auto page = m_print.document()->page(line.page))
             result.addSelection(page->selection(line.bounds));
     }
     return result;
@@ -198,30 +192,10 @@ PDFSpecification::selection(const Entry &entry,
 
 // From a place to an entry
 
-std::shared_ptr<PDFSpecification::Entry>
-PDFSpecification::nextEntry(const SpecificationEntry &entry) const
+bool EntryLocator::holds(const Entry &entry, const HostPDFDestination &place) const
 {
-    const auto *known = dynamic_cast<const Entry *>(&entry);
-    return known ? EntryNavigator(*this).next(*known) : nullptr;
-}
-
-std::shared_ptr<PDFSpecification::Entry>
-PDFSpecification::previousEntry(const SpecificationEntry &entry) const
-{
-    const auto *known = dynamic_cast<const Entry *>(&entry);
-    return known ? EntryNavigator(*this).previous(*known) : nullptr;
-}
-
-std::shared_ptr<PDFSpecification::Entry>
-PDFSpecification::entry(const HostPDFDestination &place) const
-{
-    return EntryNavigator(*this).at(place);
-}
-
-bool PDFSpecification::holds(const Entry &entry, const HostPDFDestination &place) const
-{
-    const auto info = pageRectInfo(entry);
-    const auto index = m_cachingDocument->indexForPage(*place.page());
+    const auto info = rects(entry);
+    const auto index = m_print.document()->indexForPage(*place.page());
     if (!info || !index)
         return false;
     const auto rect = info->pageRects.find(*index);
@@ -229,9 +203,9 @@ bool PDFSpecification::holds(const Entry &entry, const HostPDFDestination &place
 }
 
 std::shared_ptr<PDFSpecification::Entry>
-PDFSpecification::closestEntry(const HostPDFDestination &place) const
+EntryLocator::closest(const HostPDFDestination &place) const
 {
-    const EntryNavigator navigator(*this);
+    const EntryNavigator navigator(m_print.specification());
     auto candidate = navigator.lastBefore(place);
     if (!candidate)
         return nullptr;
@@ -254,22 +228,14 @@ PDFSpecification::closestEntry(const HostPDFDestination &place) const
     return nullptr;
 }
 
-std::shared_ptr<PDFSpecification::Entry> PDFSpecification::entry(const HostPDFSelection &selection)
+std::shared_ptr<PDFSpecification::Entry>
+EntryLocator::closest(const HostPDFSelection &selection) const
 {
     const auto pages = selection.pages();
     if (pages.empty())
         return nullptr;
-    auto found = closestEntry(topLeft(selection, pages.front()));
-    if (!found)
-        found = closestEntry(topLeft(selection, pages.back()));
-    if (!found || !isTextual(found->type()))
-        return found;
-    const auto range = lineRange(selection, *found);
-    if (!range)
-        return found;
-    auto child = found->childEntry(*range);
-    initializeEntry(*child);
-    return child;
+    auto found = closest(topLeft(selection, pages.front()));
+    return found ? found : closest(topLeft(selection, pages.back()));
 }
 
 } // namespace Tavrin
