@@ -1398,5 +1398,25 @@ Wählen Sie ein Verzeichnis mit Karten unter Datei ▸ Karten öffnen.</translat
         <comment>menu item</comment>
         <translation>Eintrag &amp;kopieren</translation>
     </message>
+    <message>
+        <source>%@ cannot be read.</source>
+        <comment>aux file assignment error description</comment>
+        <translation>%@ kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>%@ is not a PDF.</source>
+        <comment>aux file assignment error description</comment>
+        <translation>%@ ist keine PDF-Datei.</translation>
+    </message>
+    <message>
+        <source>%@ is damaged.</source>
+        <comment>aux file assignment error description</comment>
+        <translation>%@ ist beschädigt.</translation>
+    </message>
+    <message>
+        <source>%@ is protected by a password.</source>
+        <comment>aux file assignment error description</comment>
+        <translation>%@ ist durch ein Passwort geschützt.</translation>
+    </message>
 </context>
 </TS>

@@ -1398,5 +1398,25 @@ Choose a directory of spec maps with File ▸ Open Maps.</translation>
         <comment>menu item</comment>
         <translation>&amp;Copy Entry</translation>
     </message>
+    <message>
+        <source>%@ cannot be read.</source>
+        <comment>aux file assignment error description</comment>
+        <translation>%@ cannot be read.</translation>
+    </message>
+    <message>
+        <source>%@ is not a PDF.</source>
+        <comment>aux file assignment error description</comment>
+        <translation>%@ is not a PDF.</translation>
+    </message>
+    <message>
+        <source>%@ is damaged.</source>
+        <comment>aux file assignment error description</comment>
+        <translation>%@ is damaged.</translation>
+    </message>
+    <message>
+        <source>%@ is protected by a password.</source>
+        <comment>aux file assignment error description</comment>
+        <translation>%@ is protected by a password.</translation>
+    </message>
 </context>
 </TS>

@@ -39,7 +39,7 @@ ExitCode FilesCommand::run(const QCommandLineParser &parser) const
     const bool asJson = parser.isSet(u"json"_s);
     QJsonArray files;
     for (const QUrl &file : manager.auxiliaryFiles()) {
-        const auto specification = specificationBoundTo(manager, file);
+        const auto specification = manager.specificationBoundTo(file);
         files.append(StoredFile::json(file, specification.get()));
         if (!asJson)
             StoredFile::print(file, specification.get());

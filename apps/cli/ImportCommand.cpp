@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <optional>
 
+#include <Tavrin/pdfspec/CandidateReading.h>
 #include <Tavrin/platform/StringLocalizer.h>
 
 #include "CommandLineError.h"
@@ -43,7 +44,7 @@ std::optional<QUrl> earlierCopy(SpecificationManager &manager, const QUrl &file)
 {
     const std::vector<QUrl> &files = manager.auxiliaryFiles();
     const auto it = std::find_if(files.begin(), files.end(), [&](const QUrl &stored) {
-        return specificationBoundTo(manager, stored) &&
+        return manager.specificationBoundTo(stored) &&
                haveSameContent(stored.toLocalFile(), file.toLocalFile());
     });
     return it == files.end() ? std::nullopt : std::optional(*it);
@@ -90,8 +91,9 @@ ExitCode ImportCommand::run(const QCommandLineParser &parser) const
     if (paths.isEmpty())
         throw CommandLineError(u"nothing to import"_s);
     // Before the first is copied, so that a slip leaves things as they were.
+    CandidateReading reading;
     for (const QString &path : paths)
-        openPDF(path);
+        reading.open(fileUrl(path));
     SpecificationManager manager;
     Library::registerMaps(manager, parser);
     const bool asJson = parser.isSet(u"json"_s);
@@ -100,7 +102,7 @@ ExitCode ImportCommand::run(const QCommandLineParser &parser) const
         const auto copy = imported(manager, path);
         if (!copy)
             continue;
-        const auto specification = specificationBoundTo(manager, *copy);
+        const auto specification = manager.specificationBoundTo(*copy);
         copies.append(StoredFile::json(*copy, specification.get()));
         if (!asJson)
             StoredFile::print(*copy, specification.get());

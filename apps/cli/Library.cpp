@@ -7,6 +7,7 @@
 #include <optional>
 
 #include <Tavrin/model/SpecURL.h>
+#include <Tavrin/pdfspec/CandidateReading.h>
 
 #include "CommandLineError.h"
 
@@ -48,10 +49,12 @@ void Library::describeMaps(QCommandLineParser &parser)
 
 Library::Library(const QCommandLineParser &parser, const QStringList &furtherPDFs)
 {
+    // What can't be opened ends this before any map is asked. What can is opened once.
+    CandidateReading reading;
     std::vector<QUrl> pdfs;
     for (const QString &pdf : parser.values(u"pdf"_s) + furtherPDFs) {
-        openPDF(pdf);
         pdfs.push_back(fileUrl(pdf));
+        reading.open(pdfs.back());
     }
     if (!pdfs.empty()) {
         // What a map is offered first it takes, and an imported copy would take the PDF's place.
@@ -62,7 +65,7 @@ Library::Library(const QCommandLineParser &parser, const QStringList &furtherPDF
     }
     registerMaps(m_manager, parser);
     for (const QUrl &pdf : pdfs) {
-        if (!specificationBoundTo(m_manager, pdf))
+        if (!m_manager.specificationBoundTo(pdf))
             m_manager.bindAuxiliaryFile(pdf);
     }
 }
@@ -87,16 +90,6 @@ const std::vector<std::shared_ptr<Specification>> &Library::loadedSpecifications
             specification->loadStructure();
     }
     return m_manager.specifications();
-}
-
-std::shared_ptr<Specification> specificationBoundTo(const SpecificationManager &manager,
-                                                    const QUrl &file)
-{
-    return manager.specificationWhere([&](const Specification &specification) {
-        const auto &requirements = specification.auxiliaryFileRequirements();
-        return std::any_of(requirements.begin(), requirements.end(),
-                           [&](const auto &requirement) { return requirement->fileURL == file; });
-    });
 }
 
 std::shared_ptr<CachingPDFDocument> openPDF(const QString &path)

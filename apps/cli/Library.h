@@ -42,10 +42,6 @@ private:
     EntryFinder m_finder{m_manager};
 };
 
-/// The specification that a file is bound to, or null.
-std::shared_ptr<Specification> specificationBoundTo(const SpecificationManager &manager,
-                                                    const QUrl &file);
-
 /// Opens a PDF. Throws what is wrong with it.
 std::shared_ptr<CachingPDFDocument> openPDF(const QString &path);
 

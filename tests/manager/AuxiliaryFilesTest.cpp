@@ -120,15 +120,24 @@ TEST_F(AuxiliaryFiles, AreRefusedIfNothingRecognisesThem)
     writeMap(u"alpha"_s);
     const auto manager = start();
     const QUrl other = writeDocument(u"beta"_s, u"other.pdf"_s);
-    for (const QUrl &url : {other, files.url(u"none.pdf"_s), files.url(u"maps"_s)}) {
+    using Kind = SpecificationManager::SetupError::Kind;
+    const QString unassigned = u" does not match any supported specifications."_s;
+    const std::vector<std::tuple<QUrl, Kind, QString>> refused{
+        {other, Kind::UnassignedAuxiliaryFile, unassigned},
+        {files.url(u"maps"_s), Kind::UnassignedAuxiliaryFile, unassigned},
+        {files.url(u"none.pdf"_s), Kind::UnreadableFile, u" cannot be read."_s},
+        {files.url(u"none.txt"_s), Kind::UnreadableFile, u" cannot be read."_s},
+        {files.write(u"text.pdf"_s, "plain text"), Kind::NotAPDF, u" is not a PDF."_s},
+        {files.write(u"broken.pdf"_s, "%PDF-1.7\n"), Kind::DamagedFile, u" is damaged."_s},
+    };
+    for (const auto &[url, kind, text] : refused) {
         try {
             manager->registerAuxiliaryFile(url);
             ADD_FAILURE() << "nothing recognises it";
         } catch (const SpecificationManager::SetupError &error) {
-            EXPECT_EQ(error.kind, SpecificationManager::SetupError::Kind::UnassignedAuxiliaryFile);
+            EXPECT_EQ(error.kind, kind);
             EXPECT_EQ(error.url, url);
-            EXPECT_EQ(error.errorDescription,
-                      url.fileName() + u" does not match any supported specifications."_s);
+            EXPECT_EQ(error.errorDescription, url.fileName() + text);
             EXPECT_EQ(error.failureReason, error.errorDescription);
             EXPECT_EQ(error.recoverySuggestion, u"Try another file."_s);
         }
@@ -250,11 +259,15 @@ TEST_F(AuxiliaryFiles, AreForgotten)
 TEST_F(AuxiliaryFiles, AreBoundWhereTheyLieOnRequest)
 {
     writeMap(u"alpha"_s);
+    writeMap(u"beta"_s);
     const auto manager = start();
-    const QUrl url = writeDocument(u"alpha"_s, u"report.pdf"_s);
+    const QUrl url = writeDocument(u"beta"_s, u"report.pdf"_s);
     notifications = 0;
-    EXPECT_EQ(manager->bindAuxiliaryFile(url), manager->specifications().front());
-    EXPECT_EQ(boundFile(*manager, u"alpha"_s), url);
+    OpeningCounter openings(files.path());
+    EXPECT_EQ(manager->bindAuxiliaryFile(url), manager->specifications().back());
+    EXPECT_EQ(openings.takeCounts()[u"report.pdf"_s], 1) << "two maps saw it, and one bound it";
+    EXPECT_EQ(boundFile(*manager, u"beta"_s), url);
+    EXPECT_EQ(manager->specificationBoundTo(url), manager->specifications().back());
     EXPECT_THAT(manager->auxiliaryFiles(), IsEmpty());
     EXPECT_FALSE(QFile::exists(storePath()));
     EXPECT_EQ(notifications, 0);

@@ -78,7 +78,7 @@ TEST_F(HostileDocuments, FilesThatAreNoPDF)
     };
     EXPECT_EQ(kind("no PDF at all"), HostPDFError::Kind::NotAPDF);
     EXPECT_EQ(kind(""), HostPDFError::Kind::NotAPDF);
-    EXPECT_EQ(kind("%PDF-1.7\n"), HostPDFError::Kind::NotAPDF);
+    EXPECT_EQ(kind("%PDF-1.7\n"), HostPDFError::Kind::Damaged);
     EXPECT_THROW(CachingPDFDocument::open(files.url(u"gone.pdf"_s)), HostPDFError);
     EXPECT_THROW(CachingPDFDocument::open(QUrl(u"https://example.org/a.pdf"_s)), HostPDFError);
     // What is left of a file may be readable; then it is read, else refused.

@@ -19,6 +19,7 @@
 namespace Tavrin
 {
 
+class HostPDFError;
 class ManagedRegistry;
 class ViewControllerFactory;
 
@@ -62,13 +63,24 @@ public:
         QString directory;
     };
 
-    /// A file that no registered specification has an open requirement for.
+    /// Why no specification took a file.
     class TAVRIN_CORE_EXPORT SetupError : public std::runtime_error
     {
     public:
-        enum class Kind { UnassignedAuxiliaryFile };
+        enum class Kind {
+            /// No registered specification has an open requirement for it.
+            UnassignedAuxiliaryFile,
+            /// It is missing or may not be read.
+            UnreadableFile,
+            NotAPDF,
+            /// It is a PDF, too broken to repair.
+            DamagedFile,
+            /// It is encrypted, and opens with a password alone.
+            PasswordNeeded,
+        };
 
         explicit SetupError(const QUrl &url);
+        SetupError(const QUrl &url, const HostPDFError &reason);
 
         Kind kind = Kind::UnassignedAuxiliaryFile;
         QUrl url;

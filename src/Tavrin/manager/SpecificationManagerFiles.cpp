@@ -2,11 +2,15 @@
 // The manager's part that looks after the files that users import.
 #include <Tavrin/manager/SpecificationManager.h>
 
+#include <QFileInfo>
+
 #include <algorithm>
+#include <cerrno>
 #include <utility>
 
 #include <Tavrin/manager/AuxiliaryFileStore.h>
 #include <Tavrin/manager/TavrinConstants.h>
+#include <Tavrin/pdfspec/CandidateReading.h>
 #include <Tavrin/platform/Logging.h>
 #include <Tavrin/platform/NotificationCenter.h>
 #include <Tavrin/platform/StringLocalizer.h>
@@ -29,15 +33,72 @@ bool claims(Specification &specification, const QUrl &url)
     }
 }
 
+using SetupError = SpecificationManager::SetupError;
+
+SetupError::Kind kindOf(const HostPDFError &error)
+{
+    switch (error.kind) {
+    case HostPDFError::Kind::Unreadable:
+        return SetupError::Kind::UnreadableFile;
+    case HostPDFError::Kind::NotAPDF:
+        return SetupError::Kind::NotAPDF;
+    case HostPDFError::Kind::Damaged:
+        return SetupError::Kind::DamagedFile;
+    case HostPDFError::Kind::PasswordNeeded:
+        break;
+    }
+    return SetupError::Kind::PasswordNeeded;
+}
+
+QString description(SetupError::Kind kind)
+{
+    switch (kind) {
+    case SetupError::Kind::UnassignedAuxiliaryFile:
+        break;
+    case SetupError::Kind::UnreadableFile:
+        return localized("%@ cannot be read.", "aux file assignment error description");
+    case SetupError::Kind::NotAPDF:
+        return localized("%@ is not a PDF.", "aux file assignment error description");
+    case SetupError::Kind::DamagedFile:
+        return localized("%@ is damaged.", "aux file assignment error description");
+    case SetupError::Kind::PasswordNeeded:
+        return localized("%@ is protected by a password.", "aux file assignment error description");
+    }
+    return localized("%@ does not match any supported specifications.",
+                     "aux file assignment error description");
+}
+
+/// Why none of those that were asked took the file.
+SetupError setupError(const QUrl &url)
+{
+    if (const auto failure = CandidateReading::failure(url))
+        return SetupError(url, *failure);
+    // Whoever goes by its name hasn't looked at it.
+    const QString path = url.toLocalFile();
+    if (!path.isEmpty() && !QFileInfo::exists(path))
+        return SetupError(
+            url, HostPDFError(HostPDFError::Kind::Unreadable, path, qt_error_string(ENOENT)));
+    return SetupError(url);
+}
+
 } // namespace
 
 SpecificationManager::SetupError::SetupError(const QUrl &file)
     : std::runtime_error(file.toLocalFile().toStdString() +
                          ": does not match any supported specifications"),
       url(file),
-      errorDescription(localized("%@ does not match any supported specifications.",
-                                 "aux file assignment error description")
-                           .replace("%@"_L1, file.fileName())),
+      errorDescription(description(kind).replace("%@"_L1, file.fileName())),
+      failureReason(errorDescription),
+      recoverySuggestion(
+          localized("Try another file.", "aux file assignment error recovery suggestion"))
+{
+}
+
+SpecificationManager::SetupError::SetupError(const QUrl &file, const HostPDFError &reason)
+    : std::runtime_error(reason.what()),
+      kind(kindOf(reason)),
+      url(file),
+      errorDescription(description(kind).replace("%@"_L1, file.fileName())),
       failureReason(errorDescription),
       recoverySuggestion(
           localized("Try another file.", "aux file assignment error recovery suggestion"))
@@ -77,6 +138,7 @@ void SpecificationManager::assignExistingAuxiliaryFiles(Specification &specifica
 
 QUrl SpecificationManager::registerAuxiliaryFile(const QUrl &url)
 {
+    const CandidateReading once;
     const SpecificationPtr specification = specificationFor(url);
     QUrl stored = AuxiliaryFileStore::add(url);
     try {
@@ -119,9 +181,10 @@ void SpecificationManager::unregisterAuxiliaryFile(const QUrl &url)
 
 SpecificationManager::SpecificationPtr SpecificationManager::bindAuxiliaryFile(const QUrl &url)
 {
+    const CandidateReading once;
     SpecificationPtr specification = specificationFor(url);
     if (!specification->claimAuxiliaryFile(url))
-        throw SetupError(url);
+        throw setupError(url);
     return specification;
 }
 
@@ -132,7 +195,7 @@ SpecificationManager::SpecificationPtr SpecificationManager::specificationFor(co
     };
     const auto it = std::find_if(m_specifications.begin(), m_specifications.end(), recognises);
     if (it == m_specifications.end())
-        throw SetupError(url);
+        throw setupError(url);
     return *it;
 }
 

@@ -289,11 +289,6 @@ protected:
     void readPageBounds(const QString &readInfo);
 
 private:
-    struct AuxFileMetadata;
-
-    std::optional<AuxFileMetadata> loadPDFFileMetadata(const QUrl &url) const;
-    bool recognisesCandidate(const AuxFileMetadata &metadata,
-                             const AuxiliaryFileRequirement &requirement);
     void tellBound();
     void readNamedDestinations(const PDFDictionary &catalog,
                                const std::shared_ptr<CachingPDFDocument> &document);
@@ -304,8 +299,6 @@ private:
     std::vector<std::vector<std::shared_ptr<Entry>>> m_sortedDestinations;
     std::vector<PDFDictionaryPtr> m_pageDictionaries;
     std::optional<QUrl> m_pdfURL;
-    /// The file that is being assigned; null at any other time.
-    std::shared_ptr<const AuxFileMetadata> m_candidate;
     std::optional<Rect> m_pageBounds;
     mutable std::optional<QMap<QString, HostPDFOutline>> m_documentOutline;
     std::unique_ptr<PrintReader> m_print;

@@ -3,13 +3,13 @@
 #include <Tavrin/pdfspec/PDFSpecification.h>
 
 #include <QFileInfo>
-#include <QScopeGuard>
 
 #include <mutex>
 #include <typeinfo>
 #include <utility>
 
 #include <Tavrin/model/ViewControllerFactory.h>
+#include <Tavrin/pdfspec/CandidateReading.h>
 #include <Tavrin/pdfspec/FirstPageMemory.h>
 #include <Tavrin/pdfspec/PrintReader.h>
 #include <Tavrin/pdfspec/VerifierText.h>
@@ -30,7 +30,7 @@ namespace
 std::shared_ptr<CachingPDFDocument> openDocument(const QUrl &url)
 {
     try {
-        return CachingPDFDocument::open(url);
+        return CandidateReading::document(url);
     } catch (const HostPDFError &error) {
         qCWarning(pdfLog).noquote() << QString::fromUtf8(error.what());
         return nullptr;
@@ -45,34 +45,24 @@ std::shared_ptr<CachingPDFDocument> openCandidate(const QUrl &url)
     return document;
 }
 
-} // namespace
-
-/// What a candidate file offers for recognition.
-struct PDFSpecification::AuxFileMetadata {
-    QUrl url;
-    FirstPage page;
-    /// Null if all else was known without opening the file.
-    std::shared_ptr<CachingPDFDocument> document;
-};
-
-std::optional<PDFSpecification::AuxFileMetadata>
-PDFSpecification::loadPDFFileMetadata(const QUrl &url) const
+/// By what the file is recognised; nothing if it can't be opened.
+std::optional<FirstPage> firstPage(const QUrl &url)
 {
-    if (m_candidate && m_candidate->url == url)
-        return *m_candidate;
     FirstPageMemory &memory = FirstPageMemory::shared();
     const FileVersion version(url.toLocalFile());
     if (auto known = memory.page(version))
-        return AuxFileMetadata{url, *std::move(known), nullptr};
-    auto document = openCandidate(url);
+        return known;
+    const auto document = openCandidate(url);
     if (!document)
         return std::nullopt;
     const auto &attributes = document->documentAttributes();
     FirstPage page{attributes.value(u"Title"_s), attributes.value(u"Author"_s),
                    document->textForPage(0).value_or(QString())};
     memory.remember(version, page);
-    return AuxFileMetadata{url, std::move(page), std::move(document)};
+    return page;
 }
+
+} // namespace
 
 QStringList PDFSpecification::formatVerifierText(const QString &text) const
 {
@@ -84,18 +74,18 @@ bool PDFSpecification::doesAuxiliaryFile(const QUrl &url,
 {
     if (QFileInfo(url.path()).suffix() != requirement.fileType)
         return false;
-    const auto metadata = loadPDFFileMetadata(url);
-    return metadata && VerifierText::match(formatVerifierText(metadata->page.text),
-                                           formatVerifierText(requirement.verifier));
+    const auto page = firstPage(url);
+    return page && VerifierText::match(formatVerifierText(page->text),
+                                       formatVerifierText(requirement.verifier));
 }
 
 bool PDFSpecification::assignAuxiliaryFile(const QUrl &url,
                                            const AuxiliaryFileRequirement &requirement)
 {
-    const auto metadata = loadPDFFileMetadata(url);
-    if (!metadata || !recognisesCandidate(*metadata, requirement))
+    const CandidateReading once;
+    if (!doesAuxiliaryFile(url, requirement))
         return false;
-    const auto document = metadata->document ? metadata->document : openCandidate(url);
+    const auto document = openCandidate(url);
     if (!document)
         return false;
     m_pdfURL = url;
@@ -110,15 +100,6 @@ bool PDFSpecification::assignAuxiliaryFile(const QUrl &url,
     readPageBounds(requirement.readInfo);
     tellBound();
     return true;
-}
-
-bool PDFSpecification::recognisesCandidate(const AuxFileMetadata &metadata,
-                                           const AuxiliaryFileRequirement &requirement)
-{
-    // Recognising reads what was just read; the file is not opened for it once more.
-    m_candidate = std::make_shared<AuxFileMetadata>(metadata);
-    const auto forget = qScopeGuard([this] { m_candidate = nullptr; });
-    return doesAuxiliaryFile(metadata.url, requirement);
 }
 
 void PDFSpecification::setPageBounds(const std::optional<Rect> &bounds)

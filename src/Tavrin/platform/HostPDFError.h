@@ -17,8 +17,10 @@ public:
     enum class Kind {
         /// The file is missing or may not be read.
         Unreadable,
-        /// It is there, and it is no PDF, or one too broken to repair.
+        /// It is there, and it is no PDF.
         NotAPDF,
+        /// It is a PDF, too broken to repair.
+        Damaged,
         /// It is encrypted, and the password given (or none) does not open it.
         PasswordNeeded,
     };

@@ -90,7 +90,7 @@ void MuPDFSession::open(const MuPDFSource &source)
         fz_catch(context) fz_rethrow(context);
     });
     if (!opened) {
-        throw HostPDFError(HostPDFError::Kind::NotAPDF, source.name(),
+        throw HostPDFError(HostPDFError::Kind::Damaged, source.name(),
                            u"the PDF is broken beyond repair (%1)"_s.arg(
                                QString::fromUtf8(fz_caught_message(m_context))));
     }
