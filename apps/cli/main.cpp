@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
+#include <QFile>
 #include <QGuiApplication>
 #include <QLocale>
+#include <QTemporaryDir>
 
 #include <algorithm>
 #include <memory>
+#include <optional>
 
 #include <Tavrin/pdfspec/PDFSpecification.h>
 #include <Tavrin/platform/Translations.h>
@@ -98,17 +101,34 @@ bool hasPlainLocale()
     return true;
 }
 
-/// Pictures need fonts, and those the larger application; no window is ever shown.
+/// The larger application, for its fonts. It looks for a display in the session's runtime
+/// directory, whatever it is told, and complains where there is no session; so an empty directory
+/// stands in while it starts.
+std::unique_ptr<QCoreApplication> makeDrawingApplication(int &argc, char **argv)
+{
+    constexpr auto runtimeDirectory = "XDG_RUNTIME_DIR";
+    std::optional<QTemporaryDir> standIn;
+    if (!qEnvironmentVariableIsSet(runtimeDirectory)) {
+        standIn.emplace();
+        qputenv(runtimeDirectory, QFile::encodeName(standIn->path()));
+    }
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    auto application = std::make_unique<QGuiApplication>(argc, argv);
+    if (standIn)
+        qunsetenv(runtimeDirectory);
+    return application;
+}
+
+/// Pictures need fonts; no window is ever shown.
 std::unique_ptr<QCoreApplication> makeApplication(int &argc, char **argv)
 {
     const bool drawsText = std::any_of(argv, argv + argc, [](const char *argument) {
         return QByteArrayView(argument).startsWith("--png");
     });
-    if (!drawsText)
-        return std::make_unique<QCoreApplication>(argc, argv);
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    return std::make_unique<QGuiApplication>(argc, argv);
+    if (drawsText)
+        return makeDrawingApplication(argc, argv);
+    return std::make_unique<QCoreApplication>(argc, argv);
 }
 
 } // namespace Tavrin::Cli

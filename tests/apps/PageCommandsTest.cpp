@@ -146,3 +146,17 @@ TEST_F(PageCommands, InspectDrawsThePageInItsSize)
     EXPECT_EQ(
         runTavrin({u"inspect"_s, pdf(), u"--png"_s, files().path(u"none/page.png"_s)}).exitCode, 2);
 }
+
+TEST_F(PageCommands, InspectComplainsOfNothingThatIsInOrder)
+{
+    PDFBuilder plain;
+    plain.addPage().text(72, 600, u"No destination has a name here"_s);
+    files().write(u"plain.pdf"_s, plain.build());
+    QProcessEnvironment noSession = QProcessEnvironment::systemEnvironment();
+    noSession.remove(u"XDG_RUNTIME_DIR"_s);
+    const ProgramRun run = runTavrin(
+        {u"inspect"_s, files().path(u"plain.pdf"_s), u"--png"_s, files().path(u"plain.png"_s)},
+        noSession);
+    EXPECT_EQ(run.exitCode, 0);
+    EXPECT_EQ(run.errors, QString());
+}

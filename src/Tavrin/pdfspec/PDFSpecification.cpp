@@ -31,6 +31,19 @@ bool beginsBefore(const PDFEntryPtr &a, const PDFEntryPtr &b)
     return std::is_lt(a->destination()->compare(*b->destination()));
 }
 
+/// A map that was made for the strict reading may count on names. Of other documents many have
+/// none, and nothing is wrong with them.
+void tellNoNames(PDFReadingPolicy policy)
+{
+    const QString message =
+        u"No way to get named destinations - the PDF catalog doesn't contain a destinations tree "
+        "or a name tree. Only outline and page/point-based internal links will work."_s;
+    if (policy == PDFReadingPolicy::Strict)
+        standardError(message);
+    else
+        qCDebug(pdfLog).noquote() << message;
+}
+
 /// Turns each form of link into a place.
 struct LinkResolver {
     using Place = std::optional<HostPDFDestination>;
@@ -238,9 +251,7 @@ void PDFSpecification::readNamedDestinations(const PDFDictionary &catalog,
                          u"The destination name tree wasn't found in either the top-level catalog "
                          "or within the name tree."_s);
     } else if (!plain) {
-        standardError(u"No way to get named destinations - the PDF catalog doesn't contain a "
-                      "destinations tree or a name tree. Only outline and page/point-based "
-                      "internal links will work."_s);
+        tellNoNames(m_readingPolicy);
     }
 }
 
