@@ -3,9 +3,9 @@
 #include "FuzzedPDF.h"
 #include "Fuzzing.h"
 
-#include <Tavrin/pdf/LineTrimmingError.h>
-#include <Tavrin/pdf/StyledTextEditing.h>
 #include <Tavrin/pdfspec/PDFSpecificationEntry.h>
+#include <Tavrin/platform/LineTrimmingError.h>
+#include <Tavrin/platform/StyledTextEditing.h>
 
 #include <algorithm>
 

@@ -9,8 +9,8 @@
 
 #include <Tavrin/model/PrintedNumber.h>
 #include <Tavrin/pdf/LineFinder.h>
-#include <Tavrin/pdf/StyledTextEditing.h>
 #include <Tavrin/pdfspec/EntryExtractionError.h>
+#include <Tavrin/platform/StyledTextEditing.h>
 
 namespace Tavrin::Cli
 {

@@ -7,8 +7,8 @@
 #include <utility>
 
 #include <Tavrin/pdf/LineFinder.h>
-#include <Tavrin/pdf/StyledTextEditing.h>
 #include <Tavrin/pdfspec/PDFSpecificationEntry.h>
+#include <Tavrin/platform/StyledTextEditing.h>
 
 #include "Console.h"
 

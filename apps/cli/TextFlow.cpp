@@ -10,7 +10,7 @@
 #include <utility>
 
 #include <Tavrin/model/SpecURL.h>
-#include <Tavrin/pdf/StyledTextEditing.h>
+#include <Tavrin/platform/StyledTextEditing.h>
 
 namespace Tavrin::Cli
 {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <Tavrin/pdfspec/BulletText.h>
 
-#include <Tavrin/pdf/StyledTextEditing.h>
+#include <Tavrin/platform/StyledTextEditing.h>
 #include <Tavrin/platform/SystemFont.h>
 
 namespace Tavrin::BulletText

@@ -19,13 +19,13 @@
 #include <Tavrin/pdf/CachingPDFDocument.h>
 #include <Tavrin/pdf/PDFArray.h>
 #include <Tavrin/pdf/PDFDictionary.h>
-#include <Tavrin/pdf/StyledTextEditing.h>
 #include <Tavrin/pdfspec/EntryPageInfo.h>
 #include <Tavrin/pdfspec/HeadingPageInfo.h>
 #include <Tavrin/pdfspec/LineLocation.h>
 #include <Tavrin/pdfspec/LinkRecord.h>
 #include <Tavrin/pdfspec/PDFReadingPolicy.h>
 #include <Tavrin/pdfspec/PageTextSequence.h>
+#include <Tavrin/platform/StyledTextEditing.h>
 
 namespace Tavrin
 {

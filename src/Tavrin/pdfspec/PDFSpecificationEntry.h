@@ -8,8 +8,8 @@
 #include <mutex>
 
 #include <Tavrin/model/SpecificationEntry.h>
-#include <Tavrin/pdf/StyledTextEditing.h>
 #include <Tavrin/pdfspec/PDFSpecification.h>
+#include <Tavrin/platform/StyledTextEditing.h>
 
 namespace Tavrin
 {

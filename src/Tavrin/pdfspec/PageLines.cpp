@@ -3,7 +3,7 @@
 
 #include <Tavrin/pdf/LineFinder.h>
 #include <Tavrin/pdf/PageText.h>
-#include <Tavrin/pdf/StyledTextEditing.h>
+#include <Tavrin/platform/StyledTextEditing.h>
 
 #include <QHash>
 

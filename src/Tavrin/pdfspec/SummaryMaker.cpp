@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <Tavrin/pdfspec/SummaryMaker.h>
 
-#include <Tavrin/pdf/LineTrimmingError.h>
 #include <Tavrin/pdfspec/BulletText.h>
 #include <Tavrin/pdfspec/EntryExtractionError.h>
 #include <Tavrin/platform/CharacterSet.h>
+#include <Tavrin/platform/LineTrimmingError.h>
 #include <Tavrin/platform/StandardError.h>
 #include <Tavrin/platform/SystemFont.h>
 

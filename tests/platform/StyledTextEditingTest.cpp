@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <gmock/gmock.h>
 
-#include <Tavrin/pdf/LineTrimmingError.h>
-#include <Tavrin/pdf/StyledTextEditing.h>
 #include <Tavrin/platform/CharacterSet.h>
 #include <Tavrin/platform/DecimalForm.h>
+#include <Tavrin/platform/LineTrimmingError.h>
+#include <Tavrin/platform/StyledTextEditing.h>
 
 using namespace Tavrin;
 using namespace Tavrin::StyledTextEditing;

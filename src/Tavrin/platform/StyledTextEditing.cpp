@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
-#include <Tavrin/pdf/StyledTextEditing.h>
+#include <Tavrin/platform/StyledTextEditing.h>
 
-#include <Tavrin/pdf/LineTrimmingError.h>
+#include <Tavrin/platform/LineTrimmingError.h>
 
 #include <algorithm>
 #include <utility>
