@@ -66,7 +66,8 @@ public:
                      .buttonTitle = buttonTitle,
                      .pressed = std::move(pressed)});
     }
-    ViewControllerPtr auxiliaryFileBrowser(const std::optional<QString> &instruction) override
+    ViewControllerPtr auxiliaryFileBrowser(SpecificationManager & /*manager*/,
+                                           const std::optional<QString> &instruction) override
     {
         return make({.kind = u"browser"_s, .text = instruction.value_or(u"its own"_s)});
     }

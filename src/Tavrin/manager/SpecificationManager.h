@@ -98,6 +98,9 @@ public:
     /// Made on first use; lives as long as the process.
     static SpecificationManager &shared();
 
+    /// Expires when the manager ends: ManagerPointer asks it.
+    std::weak_ptr<const void> lifetime() const { return m_lifetime; }
+
     /// In the order of the comparators if there are any, else in that of registration.
     const std::vector<SpecificationPtr> &specifications() const { return m_specifications; }
     /// Replaces the list, puts it in order and selects the primary. Offers no files.
@@ -254,6 +257,7 @@ private:
     ViewControllerPtr detailFor(const QString &label,
                                 const SpecificationPredicate &inSpecsWhere) const;
     void displayDetail(const ViewControllerPtr &detail);
+    void claim(const ViewControllerPtr &view);
     bool displayPrompt();
 
     std::vector<SpecificationPtr> m_specifications;
@@ -267,7 +271,7 @@ private:
     DisplayBlock m_browserDisplayBlock;
     std::optional<QString> m_browserHelpText;
     std::weak_ptr<ViewController> m_currentDetail;
-    /// By it a prompt that is still on show knows that the manager is there.
+    /// By it views that are still on show know that the manager is there.
     std::shared_ptr<const void> m_lifetime = std::make_shared<char>();
 };
 

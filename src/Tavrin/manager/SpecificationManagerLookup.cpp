@@ -95,8 +95,10 @@ ViewControllerPtr SpecificationManager::summaryLookup(const QString &label,
     for (const SpecificationPtr &specification : lookupOrder()) {
         if (!inSpecsWhere(*specification))
             continue;
-        if (auto summary = specification->summaryViewController(label))
+        if (auto summary = specification->summaryViewController(label)) {
+            claim(summary);
             return summary;
+        }
     }
     if (!isAnySpecificationSatisfied()) {
         if (auto prompt = makeNoSpecsController())
@@ -111,8 +113,10 @@ ViewControllerPtr SpecificationManager::summaryLookup(const QString &label,
 
 ViewControllerPtr SpecificationManager::detailLookup(const EntryPtr &entry)
 {
-    if (auto detail = detailFor(entry->label(), acceptAll))
+    if (auto detail = detailFor(entry->label(), acceptAll)) {
+        claim(detail);
         return detail;
+    }
     qCWarning(managerLog).noquote()
         << "Could not get detail view controller for" << entry->label() << "in any specification";
     return makeNoSpecsController();
@@ -171,7 +175,7 @@ ViewControllerPtr SpecificationManager::auxiliaryFileBrowser()
     auto *factory = views();
     if (!factory)
         return nullptr;
-    auto browser = factory->auxiliaryFileBrowser(m_browserHelpText);
+    auto browser = factory->auxiliaryFileBrowser(*this, m_browserHelpText);
     if (!browser)
         qFatal("Tavrin was unable to initialize the auxiliary file browser.");
     return browser;
@@ -214,7 +218,15 @@ void SpecificationManager::displayDetail(const ViewControllerPtr &detail)
         return;
     }
     m_currentDetail = detail;
+    claim(detail);
     display(detail);
+}
+
+/// Specifications make views, and know no manager.
+void SpecificationManager::claim(const ViewControllerPtr &view)
+{
+    if (auto *factory = ViewControllerFactory::installed())
+        factory->setManager(*view, *this);
 }
 
 /// Whether there was a prompt to display, if not a block to do it.

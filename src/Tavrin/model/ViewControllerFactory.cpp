@@ -19,6 +19,8 @@ std::unique_ptr<ViewControllerFactory> &factory()
 
 ViewControllerFactory::~ViewControllerFactory() = default;
 
+void ViewControllerFactory::setManager(ViewController &, SpecificationManager &) {}
+
 void ViewControllerFactory::documentBound(const std::shared_ptr<Specification> &) {}
 
 ViewControllerFactory *ViewControllerFactory::installed()

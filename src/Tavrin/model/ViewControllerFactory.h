@@ -16,6 +16,7 @@ namespace Tavrin
 
 class Specification;
 class SpecificationEntry;
+class SpecificationManager;
 
 /// Makes views for those who know no windows. Tavrin::Widgets installs one when it is loaded, which
 /// managers take unless they are given another; a process without windows has none. Main thread.
@@ -32,8 +33,11 @@ public:
     /// A message; with a title there is a button, which calls the function.
     virtual ViewControllerPtr error(const QString &message, const QString &buttonTitle,
                                     std::function<void()> pressed) = 0;
-    /// The table of imported files, with the instruction above it, or with its own.
-    virtual ViewControllerPtr auxiliaryFileBrowser(const std::optional<QString> &instruction) = 0;
+    /// The table of a manager's imported files, with the instruction above it, or with its own.
+    virtual ViewControllerPtr auxiliaryFileBrowser(SpecificationManager &manager,
+                                                   const std::optional<QString> &instruction) = 0;
+    /// Tells a summary or detail view, which a specification made, whose the specification is.
+    virtual void setManager(ViewController &view, SpecificationManager &manager);
     /// Has a detail view mark references each time it appears. False if it is no detail view.
     virtual bool showReferenceCoverage(ViewController &detail,
                                        const ReferenceCoverage &coverage) = 0;

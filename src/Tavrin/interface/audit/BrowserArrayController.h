@@ -10,8 +10,8 @@
 namespace Tavrin
 {
 
-/// Filters and sorts the rows of the audit browser: a model over the rows that hold all words, in
-/// order.
+/// The table model of the audit browser, in spite of its name: the rows that hold all words, in
+/// order. It controls no view.
 ///
 /// Each change resets the model; sourceRow() tells where a row comes from, so that a view can keep
 /// its selection. Filtering and sorting compare texts that were folded beforehand, and typing on

@@ -19,7 +19,6 @@
 #include <Tavrin/interface/toolkit/BackgroundWork.h>
 #include <Tavrin/interface/toolkit/InterfaceLog.h>
 #include <Tavrin/interface/toolkit/ProgressSheet.h>
-#include <Tavrin/manager/SpecificationManager.h>
 #include <Tavrin/model/SpecURL.h>
 #include <Tavrin/platform/StringLocalizer.h>
 
@@ -37,15 +36,6 @@ namespace
 constexpr int buttonPadding = 36;
 constexpr int referenceColumn = 0;
 
-/// The specification first, then as the manager looks labels up.
-std::vector<std::shared_ptr<Specification>> lookupOrder(const std::shared_ptr<Specification> &first)
-{
-    const auto &manager = SpecificationManager::shared();
-    std::vector<std::shared_ptr<Specification>> order{first, manager.primarySpecification()};
-    order.insert(order.end(), manager.specifications().begin(), manager.specifications().end());
-    return order;
-}
-
 ViewControllerPtr detailOf(const SpecificationEntry &entry, const QString &label)
 {
     const auto specification = entry.specification();
@@ -59,8 +49,10 @@ SpecAuditBrowserController::SpecAuditBrowserController(const QStringList &labels
                                                        std::shared_ptr<PDFSpecification> spec,
                                                        const QStringList &customHeadings,
                                                        const Components &customComponents,
-                                                       QObject *parent)
+                                                       QObject *parent,
+                                                       SpecificationManager &manager)
     : ViewController(parent),
+      m_manager(manager),
       m_spec(std::move(spec)),
       m_labels(labels),
       m_customHeadings(customHeadings),
@@ -393,8 +385,10 @@ void SpecAuditBrowserController::tableViewRowDoubleClicked()
     const auto *item = m_arrayController->arrangedItem(m_tableView->clickedIndex().row());
     if (!item)
         return;
-    auto &manager = SpecificationManager::shared();
-    const auto display = manager.detailViewControllerDisplayBlock();
+    auto *manager = m_manager.get();
+    if (!manager)
+        return;
+    const auto display = manager->detailViewControllerDisplayBlock();
     if (!display) {
         qCWarning(interfaceLog) << "Tried to display a detail view controller, but the application "
                                    "hasn't set up a detail view controller display block.";
@@ -405,7 +399,7 @@ void SpecAuditBrowserController::tableViewRowDoubleClicked()
         const QString &label = item->value(column);
         if (const auto entry = entryFor(label)) {
             const auto detail = detailOf(*entry, label);
-            display(detail ? detail : manager.makeNoSpecsController());
+            display(detail ? detail : manager->makeNoSpecsController());
             return;
         }
     }
@@ -413,12 +407,23 @@ void SpecAuditBrowserController::tableViewRowDoubleClicked()
         << "Could not find label" << item->value(referenceColumn) << "in any specification";
 }
 
+std::vector<std::shared_ptr<Specification>> SpecAuditBrowserController::lookupOrder() const
+{
+    std::vector<std::shared_ptr<Specification>> order{m_spec};
+    if (const auto *manager = m_manager.get()) {
+        order.push_back(manager->primarySpecification());
+        order.insert(order.end(), manager->specifications().begin(),
+                     manager->specifications().end());
+    }
+    return order;
+}
+
 std::shared_ptr<SpecificationEntry> SpecAuditBrowserController::entryFor(const QString &label) const
 {
     // A range of lines that ends before it begins must not be looked up.
     if (SpecURL::hasReversedLines(label))
         return nullptr;
-    for (const auto &specification : lookupOrder(m_spec)) {
+    for (const auto &specification : lookupOrder()) {
         if (auto entry = specification ? specification->entry(label) : nullptr)
             return entry;
     }

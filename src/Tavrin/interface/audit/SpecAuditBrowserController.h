@@ -8,6 +8,8 @@
 #include <vector>
 
 #include <Tavrin/interface/toolkit/ViewController.h>
+#include <Tavrin/manager/ManagerPointer.h>
+#include <Tavrin/manager/SpecificationManager.h>
 #include <Tavrin/pdfspec/PDFSpecification.h>
 
 class QAction;
@@ -34,7 +36,7 @@ struct BrowserTable;
 /// wait for and stays until Escape is pressed, so a host passes one. Dropping the controller gives
 /// the audit up.
 ///
-/// Entries are shown by the shared manager's detailViewControllerDisplayBlock. Main thread.
+/// Entries are shown by the manager's detailViewControllerDisplayBlock. Main thread.
 class TAVRIN_WIDGETS_EXPORT SpecAuditBrowserController : public ViewController
 {
     Q_OBJECT
@@ -44,11 +46,10 @@ public:
 
     /// The components are values of extra columns for each label, in the order of the labels, and
     /// the headings those of the extra columns.
-    explicit SpecAuditBrowserController(const QStringList &labels,
-                                        std::shared_ptr<PDFSpecification> spec,
-                                        const QStringList &customHeadings = {},
-                                        const Components &customComponents = {},
-                                        QObject *parent = nullptr);
+    explicit SpecAuditBrowserController(
+        const QStringList &labels, std::shared_ptr<PDFSpecification> spec,
+        const QStringList &customHeadings = {}, const Components &customComponents = {},
+        QObject *parent = nullptr, SpecificationManager &manager = SpecificationManager::shared());
     ~SpecAuditBrowserController() override;
 
     const std::shared_ptr<PDFSpecification> &spec() const { return m_spec; }
@@ -107,8 +108,11 @@ private:
     void showContextMenu(const QPoint &position);
     bool passKeyToTable(QEvent &event);
     std::vector<int> rowsToCopy() const;
+    /// The specification first, then as the manager looks labels up.
+    std::vector<std::shared_ptr<Specification>> lookupOrder() const;
     std::shared_ptr<SpecificationEntry> entryFor(const QString &label) const;
 
+    ManagerPointer m_manager;
     std::shared_ptr<PDFSpecification> m_spec;
     QStringList m_labels;
     QStringList m_customHeadings;

@@ -4,12 +4,11 @@
 #include <QSignalBlocker>
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 #include <Tavrin/interface/detail/SpecPDFViewController.h>
 #include <Tavrin/interface/toolkit/Sheet.h>
-#include <Tavrin/manager/SpecificationManager.h>
-#include <Tavrin/manager/TavrinConstants.h>
 #include <Tavrin/pdfspec/PDFSpecification.h>
 #include <Tavrin/platform/StringLocalizer.h>
 
@@ -69,8 +68,9 @@ void putBehind(QWidget &view, QWidget &buttons)
 
 SpecEntrySelectionViewControllerDelegate::~SpecEntrySelectionViewControllerDelegate() = default;
 
-SpecEntrySelectionViewController::SpecEntrySelectionViewController(const EntryPtr &selectedEntry)
-    : m_selectedEntry(selectedEntry)
+SpecEntrySelectionViewController::SpecEntrySelectionViewController(const EntryPtr &selectedEntry,
+                                                                   SpecificationManager &manager)
+    : m_manager(manager), m_selectedEntry(selectedEntry)
 {
 }
 
@@ -141,10 +141,7 @@ void SpecEntrySelectionViewController::viewDidLoad()
 {
     loadDetail();
     refreshAvailableSpecifications();
-    m_filesChanged = NotificationCenter::shared().observe(
-        TavrinConstants::SpecManagerAuxiliaryFilesChangedNotification,
-        &SpecificationManager::shared(),
-        [this](const QString &, const void *) { specAuxiliaryFilesChanged(); });
+    m_filesChanged = m_manager.observeFiles([this] { specAuxiliaryFilesChanged(); });
 }
 
 void SpecEntrySelectionViewController::viewDidAppear()
@@ -162,18 +159,26 @@ void SpecEntrySelectionViewController::viewDidAppear()
 void SpecEntrySelectionViewController::refreshAvailableSpecifications()
 {
     m_availableSpecifications.clear();
-    for (const SpecificationPtr &each : SpecificationManager::shared().specifications()) {
-        if (hasAllFiles(*each))
-            m_availableSpecifications.push_back(each);
+    if (const auto *manager = m_manager.get()) {
+        const auto &all = manager->specifications();
+        std::copy_if(all.begin(), all.end(), std::back_inserter(m_availableSpecifications),
+                     [](const SpecificationPtr &each) { return hasAllFiles(*each); });
     }
     Q_EMIT changed();
+}
+
+SpecEntrySelectionViewController::SpecificationPtr
+SpecEntrySelectionViewController::primarySpecification() const
+{
+    const auto *manager = m_manager.get();
+    return manager ? manager->primarySpecification() : nullptr;
 }
 
 void SpecEntrySelectionViewController::loadDetail()
 {
     SpecificationPtr specification = m_selectedEntry ? m_selectedEntry->specification() : nullptr;
     if (!specification)
-        specification = SpecificationManager::shared().primarySpecification();
+        specification = primarySpecification();
     if (specification)
         showSpecification(specification, m_selectedEntry);
 }
@@ -207,9 +212,12 @@ SpecEntrySelectionViewController::makeDetail(const SpecificationPtr &specificati
         return std::dynamic_pointer_cast<SpecDetailViewController>(
             specification->detailViewController());
     }
-    return specification->areFileRequirementsSatisfied()
-               ? SpecPDFViewController::make(specification)
-               : nullptr;
+    if (!specification->areFileRequirementsSatisfied())
+        return nullptr;
+    auto detail = SpecPDFViewController::make(specification);
+    if (auto *manager = m_manager.get())
+        detail->setManager(*manager);
+    return detail;
 }
 
 void SpecEntrySelectionViewController::showSpecification(const SpecificationPtr &specification,
@@ -232,8 +240,8 @@ void SpecEntrySelectionViewController::showSpecification(const SpecificationPtr 
         m_currentDetailController->setAllowsEntrySelection(true);
         if (entry)
             m_currentDetailController->selectEntry(entry);
-    } else {
-        m_shown = SpecificationManager::shared().makeNoSpecsController();
+    } else if (auto *manager = m_manager.get()) {
+        m_shown = manager->makeNoSpecsController();
     }
     if (m_shown && m_containerView) {
         m_containerView->layout()->addWidget(m_shown->view());
@@ -258,9 +266,7 @@ void SpecEntrySelectionViewController::specAuxiliaryFilesChanged()
     if (isAvailable(m_selectedSpecification))
         setSelectedSpecification(m_selectedSpecification);
     else
-        setSelectedSpecification(available.empty()
-                                     ? SpecificationManager::shared().primarySpecification()
-                                     : available.front());
+        setSelectedSpecification(available.empty() ? primarySpecification() : available.front());
 }
 
 // Ending

@@ -6,6 +6,8 @@
 
 #include <Tavrin/interface/citing/SpecEntrySelectionViewControllerDelegate.h>
 #include <Tavrin/interface/detail/SpecDetailViewController.h>
+#include <Tavrin/manager/ManagerPointer.h>
+#include <Tavrin/manager/SpecificationManager.h>
 #include <Tavrin/platform/NotificationCenter.h>
 
 namespace Tavrin
@@ -32,7 +34,9 @@ public:
     /// What it ends with.
     enum Result { Cancelled = 0, Selected = 1 };
 
-    explicit SpecEntrySelectionViewController(const EntryPtr &selectedEntry = nullptr);
+    explicit SpecEntrySelectionViewController(
+        const EntryPtr &selectedEntry = nullptr,
+        SpecificationManager &manager = SpecificationManager::shared());
     ~SpecEntrySelectionViewController() override;
 
     /// Null for none.
@@ -91,11 +95,13 @@ private:
     std::shared_ptr<SpecDetailViewController>
     makeDetail(const SpecificationPtr &specification) const;
     void removeShown();
+    SpecificationPtr primarySpecification() const;
     void specAuxiliaryFilesChanged();
     void refreshAvailableSpecifications();
     void end(int result);
     void tellDelegate(int result);
 
+    ManagerPointer m_manager;
     EntryPtr m_selectedEntry;
     std::vector<SpecificationPtr> m_availableSpecifications;
     SpecificationPtr m_selectedSpecification;

@@ -12,8 +12,6 @@
 #include <Tavrin/interface/toolkit/InterfaceLog.h>
 #include <Tavrin/interface/toolkit/Popover.h>
 #include <Tavrin/interface/toolkit/Sheet.h>
-#include <Tavrin/manager/SpecificationManager.h>
-#include <Tavrin/manager/TavrinConstants.h>
 #include <Tavrin/platform/StringLocalizer.h>
 
 namespace Tavrin
@@ -42,16 +40,9 @@ QString suggestion(const SpecificationEntry &entry)
     return text;
 }
 
-EntryPtr entryFor(const QVariant &representedObject)
-{
-    const bool isString = representedObject.metaType() == QMetaType::fromType<QString>();
-    return isString ? SpecificationManager::shared().entry(representedObject.toString()) : nullptr;
-}
-
 /// The first that has its files, the primary one before others.
-SpecificationPtr searchSpecification()
+SpecificationPtr firstReadable(const SpecificationManager &manager)
 {
-    const SpecificationManager &manager = SpecificationManager::shared();
     const SpecificationPtr &primary = manager.primarySpecification();
     const auto &all = manager.specifications();
     if (primary && primary->areFileRequirementsSatisfied())
@@ -80,24 +71,24 @@ std::vector<EntryPtr> search(Specification &specification, const QString &text)
 
 } // namespace
 
-std::shared_ptr<SpecEntryTokenFieldDelegate> SpecEntryTokenFieldDelegate::make()
+std::shared_ptr<SpecEntryTokenFieldDelegate>
+SpecEntryTokenFieldDelegate::make(SpecificationManager &manager)
 {
-    return std::shared_ptr<SpecEntryTokenFieldDelegate>(new SpecEntryTokenFieldDelegate);
+    return std::shared_ptr<SpecEntryTokenFieldDelegate>(new SpecEntryTokenFieldDelegate(manager));
 }
 
-std::shared_ptr<SpecEntryTokenFieldDelegate> SpecEntryTokenFieldDelegate::make(TokenField &field)
+std::shared_ptr<SpecEntryTokenFieldDelegate>
+SpecEntryTokenFieldDelegate::make(TokenField &field, SpecificationManager &manager)
 {
-    auto delegate = make();
+    auto delegate = make(manager);
     delegate->setTokenField(&field);
     field.setTokenizingCharacters(newlines);
     return delegate;
 }
 
-SpecEntryTokenFieldDelegate::SpecEntryTokenFieldDelegate()
+SpecEntryTokenFieldDelegate::SpecEntryTokenFieldDelegate(SpecificationManager &manager)
+    : m_manager(manager), m_filesChanged(m_manager.observeFiles([this] { specsChanged(); }))
 {
-    m_filesChanged = NotificationCenter::shared().observe(
-        TavrinConstants::SpecManagerAuxiliaryFilesChangedNotification,
-        &SpecificationManager::shared(), [this](const QString &, const void *) { specsChanged(); });
 }
 
 SpecEntryTokenFieldDelegate::~SpecEntryTokenFieldDelegate() = default;
@@ -106,6 +97,19 @@ void SpecEntryTokenFieldDelegate::specsChanged()
 {
     if (TokenField *field = tokenField())
         field->reloadTokens();
+}
+
+EntryPtr SpecEntryTokenFieldDelegate::entryFor(const QVariant &representedObject) const
+{
+    const auto *manager = m_manager.get();
+    const bool isString = representedObject.metaType() == QMetaType::fromType<QString>();
+    return manager && isString ? manager->entry(representedObject.toString()) : nullptr;
+}
+
+SpecificationPtr SpecEntryTokenFieldDelegate::searchSpecification() const
+{
+    const auto *manager = m_manager.get();
+    return manager ? firstReadable(*manager) : nullptr;
 }
 
 void SpecEntryTokenFieldDelegate::setTokenSeparators(const QString &separators)
@@ -197,14 +201,16 @@ QVariantList SpecEntryTokenFieldDelegate::representedObjects(const QStringList &
     for (const QString &string : editingStrings)
         wanted.insert(string, {});
     qsizetype missing = wanted.size();
-    SpecificationManager::shared().entryWhere([&](const SpecificationEntry &entry) {
-        const auto found = wanted.find(suggestion(entry));
-        if (found != wanted.end() && !found->isValid()) {
-            *found = reference(entry);
-            --missing;
-        }
-        return missing == 0;
-    });
+    if (const auto *manager = m_manager.get()) {
+        manager->entryWhere([&](const SpecificationEntry &entry) {
+            const auto found = wanted.find(suggestion(entry));
+            if (found != wanted.end() && !found->isValid()) {
+                *found = reference(entry);
+                --missing;
+            }
+            return missing == 0;
+        });
+    }
     QVariantList result;
     result.reserve(editingStrings.size());
     for (const QString &string : editingStrings) {
@@ -229,8 +235,8 @@ QString SpecEntryTokenFieldDelegate::editingString(const QVariant &representedOb
 
 bool SpecEntryTokenFieldDelegate::hasMenu(const QVariant &representedObject)
 {
-    return SpecificationManager::shared().canDisplayDetailViewController() &&
-           entryFor(representedObject);
+    const auto *manager = m_manager.get();
+    return manager && manager->canDisplayDetailViewController() && entryFor(representedObject);
 }
 
 QMenu &SpecEntryTokenFieldDelegate::tokenMenu()
@@ -330,9 +336,10 @@ void SpecEntryTokenFieldDelegate::deleteTokenEntry()
 void SpecEntryTokenFieldDelegate::previewTokenSpecReference()
 {
     TokenField *field = tokenField();
-    if (!field)
+    auto *manager = m_manager.get();
+    if (!field || !manager)
         return;
-    if (auto summary = SpecificationManager::shared().summaryLookup(tokenMenu().objectName()))
+    if (auto summary = manager->summaryLookup(tokenMenu().objectName()))
         Popover::show(std::move(summary), field->rect(), *field);
 }
 
@@ -360,10 +367,11 @@ void SpecEntryTokenFieldDelegate::insertTokenFromSpecEntryBrowser()
 void SpecEntryTokenFieldDelegate::openSelectionSheet(const EntryPtr &entry, Choice chosen)
 {
     TokenField *field = tokenField();
+    auto *manager = m_manager.get();
     // A field that is in no window that anybody sees has nothing for a sheet to be over.
-    if (!field || !field->window()->isVisible() || m_specBrowserWindow)
+    if (!field || !manager || !field->window()->isVisible() || m_specBrowserWindow)
         return;
-    auto controller = std::make_shared<SpecEntrySelectionViewController>(entry);
+    auto controller = std::make_shared<SpecEntrySelectionViewController>(entry, *manager);
     auto *sheet = new Sheet(*field);
     sheet->setWindowTitle(localized("Select an Entry", "entry browser title"));
     // The prompt to import has no button that ends the sheet.

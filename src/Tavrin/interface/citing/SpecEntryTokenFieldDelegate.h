@@ -13,6 +13,8 @@
 #include <vector>
 
 #include <Tavrin/interface/tokens/TokenFieldDelegate.h>
+#include <Tavrin/manager/ManagerPointer.h>
+#include <Tavrin/manager/SpecificationManager.h>
 #include <Tavrin/model/SpecificationEntry.h>
 #include <Tavrin/platform/NotificationCenter.h>
 
@@ -22,7 +24,7 @@ namespace Tavrin
 class SpecEntrySelectionViewController;
 class TokenField;
 
-/// Makes a token field one of references to specification entries, of those that the shared
+/// Makes a token field one of references to specification entries, of those that a
 /// SpecificationManager knows.
 ///
 /// The user types part of a title or label and picks a completion; the field then holds the
@@ -44,9 +46,11 @@ public:
     static constexpr int initialSuggestionTimeout = 1'000;
 
     /// Without a field.
-    static std::shared_ptr<SpecEntryTokenFieldDelegate> make();
+    static std::shared_ptr<SpecEntryTokenFieldDelegate>
+    make(SpecificationManager &manager = SpecificationManager::shared());
     /// For a field, in which every kind of line end, and nothing else, ends a token.
-    static std::shared_ptr<SpecEntryTokenFieldDelegate> make(TokenField &field);
+    static std::shared_ptr<SpecEntryTokenFieldDelegate>
+    make(TokenField &field, SpecificationManager &manager = SpecificationManager::shared());
     ~SpecEntryTokenFieldDelegate() override;
 
     /// Each of its characters ends a token; "\n" at first. Goes to the field at once.
@@ -111,9 +115,11 @@ public:
 private:
     using Choice = std::function<void(const SpecEntrySelectionViewController &controller)>;
 
-    SpecEntryTokenFieldDelegate();
+    explicit SpecEntryTokenFieldDelegate(SpecificationManager &manager);
 
     void specsChanged();
+    EntryPtr entryFor(const QVariant &representedObject) const;
+    std::shared_ptr<Specification> searchSpecification() const;
     std::optional<QStringList> awaitInitialSuggestions() const;
     QString reference(const SpecificationEntry &entry) const;
     std::optional<QStringList> strings() const;
@@ -121,6 +127,7 @@ private:
     std::optional<QStringList> stringsToChange() const;
     void openSelectionSheet(const EntryPtr &entry, Choice chosen);
 
+    ManagerPointer m_manager;
     QString m_tokenSeparators = QStringLiteral("\n");
     QPointer<QWidget> m_tokenField;
     bool m_constrainsURLsToSourceSpec = true;

@@ -11,6 +11,7 @@
 #include <Tavrin/interface/detail/SpecDetailViewController.h>
 #include <Tavrin/interface/detail/SpecPDFViewerDelegate.h>
 #include <Tavrin/interface/sidebars/SpecPDFSourceList.h>
+#include <Tavrin/manager/ManagerPointer.h>
 #include <Tavrin/platform/NotificationCenter.h>
 
 namespace Tavrin
@@ -23,7 +24,6 @@ class EntryHighlightPDFView;
 class FileWatch;
 class ProgressSheet;
 class SpecPDFViewer;
-class SpecificationManager;
 
 /// The detail view of a specification that lives in a PDF: lists that lead into the document on
 /// the left, the document on the right.
@@ -47,6 +47,10 @@ public:
     /// loaded. Held by std::shared_ptr.
     explicit SpecPDFViewController(QObject *parent = nullptr);
     ~SpecPDFViewController() override;
+
+    /// The manager whose changes the view follows from now on. Without one it is whichever knows
+    /// the specification, or a successor of it.
+    void setManager(SpecificationManager &manager);
 
     /// The second child; null before the view is loaded.
     const std::shared_ptr<SpecPDFViewer> &viewer() const { return m_viewer; }
@@ -156,6 +160,7 @@ private:
     QPointer<DetailView> m_detailView;
     QTimer m_placeTimer;
     std::unique_ptr<FileWatch> m_fileWatch;
+    std::optional<ManagerPointer> m_manager;
     NotificationCenter::TokenPtr m_filesObservation;
     /// Of the entry to come back to when its document does.
     std::optional<QString> m_lostLabel;

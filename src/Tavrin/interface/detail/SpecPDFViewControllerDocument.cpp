@@ -108,8 +108,15 @@ void SpecPDFViewController::showNotice(const QString &text)
         m_detailView->noticeBar().showText(text);
 }
 
+void SpecPDFViewController::setManager(SpecificationManager &manager)
+{
+    m_manager = ManagerPointer(manager);
+}
+
 void SpecPDFViewController::filesChanged(const SpecificationManager &manager)
 {
+    if (m_manager && m_manager->get() != &manager)
+        return;
     const auto &known = manager.specifications();
     const bool isKnown = std::find(known.begin(), known.end(), m_specification) != known.end();
     if (m_specification && !isKnown && m_specification->specMapURL()) {

@@ -6,8 +6,6 @@
 #include <Tavrin/interface/files/AuxiliaryFileTableCellView.h>
 #include <Tavrin/interface/files/FileDropOverlay.h>
 #include <Tavrin/interface/toolkit/InterfaceLog.h>
-#include <Tavrin/manager/SpecificationManager.h>
-#include <Tavrin/manager/TavrinConstants.h>
 #include <Tavrin/platform/StringLocalizer.h>
 
 #include <QDropEvent>
@@ -46,17 +44,38 @@ bool isSameRow(const AuxiliaryFile &a, const AuxiliaryFile &b)
     return a.spec() == b.spec() && (a.spec() || a.urls() == b.urls());
 }
 
-} // namespace
-
-std::shared_ptr<AuxiliaryFileBrowserController> AuxiliaryFileBrowserController::standard()
+/// The specifications with the files that each one has, then the files that none has.
+std::vector<AuxiliaryFilePtr> filesOf(SpecificationManager &manager)
 {
-    return std::make_shared<AuxiliaryFileBrowserController>();
+    std::vector<QUrl> unmatched = manager.auxiliaryFiles();
+    std::vector<AuxiliaryFilePtr> rows;
+    for (const auto &specification : manager.specifications()) {
+        if (specification->auxiliaryFileRequirements().empty())
+            continue;
+        rows.push_back(std::make_shared<AuxiliaryFile>(
+            specification, specification == manager.primarySpecification()));
+        for (const QUrl &url : rows.back()->urls())
+            unmatched.erase(std::remove(unmatched.begin(), unmatched.end(), url), unmatched.end());
+    }
+    for (const QUrl &url : unmatched)
+        rows.push_back(std::make_shared<AuxiliaryFile>(url));
+    return rows;
 }
 
-AuxiliaryFileBrowserController::AuxiliaryFileBrowserController(QObject *parent)
+} // namespace
+
+std::shared_ptr<AuxiliaryFileBrowserController>
+AuxiliaryFileBrowserController::standard(SpecificationManager &manager)
+{
+    return std::make_shared<AuxiliaryFileBrowserController>(nullptr, manager);
+}
+
+AuxiliaryFileBrowserController::AuxiliaryFileBrowserController(QObject *parent,
+                                                               SpecificationManager &manager)
     : ViewController(parent),
+      m_manager(manager),
       m_arrayController(std::make_unique<AuxiliaryFileArrayController>()),
-      m_import(std::make_unique<AuxiliaryFileImport>()),
+      m_import(std::make_unique<AuxiliaryFileImport>(nullptr, manager)),
       m_instructionText(
           localized("Import a supported specification to look up reference topics inline:",
                     "auxiliary file browser instruction"))
@@ -105,10 +124,7 @@ void AuxiliaryFileBrowserController::viewDidLoad()
     reload();
     // What the parts of the view don't take comes to the view.
     view()->setAcceptDrops(true);
-    m_observation = NotificationCenter::shared().observe(
-        TavrinConstants::SpecManagerAuxiliaryFilesChangedNotification,
-        &SpecificationManager::shared(),
-        [this](const QString &, const void *) { specAuxiliaryFilesChanged(); });
+    m_observation = m_manager.observeFiles([this] { specAuxiliaryFilesChanged(); });
     installAccessoryView();
 }
 
@@ -182,19 +198,9 @@ QWidget *AuxiliaryFileBrowserController::window() const
 
 void AuxiliaryFileBrowserController::reload()
 {
-    SpecificationManager &manager = SpecificationManager::shared();
-    std::vector<QUrl> unmatched = manager.auxiliaryFiles();
-    std::vector<AuxiliaryFilePtr> rows;
-    for (const auto &specification : manager.specifications()) {
-        if (specification->auxiliaryFileRequirements().empty())
-            continue;
-        rows.push_back(std::make_shared<AuxiliaryFile>(
-            specification, specification == manager.primarySpecification()));
-        for (const QUrl &url : rows.back()->urls())
-            unmatched.erase(std::remove(unmatched.begin(), unmatched.end(), url), unmatched.end());
-    }
-    for (const QUrl &url : unmatched)
-        rows.push_back(std::make_shared<AuxiliaryFile>(url));
+    auto *manager = m_manager.get();
+    std::vector<AuxiliaryFilePtr> rows =
+        manager ? filesOf(*manager) : std::vector<AuxiliaryFilePtr>();
     const std::vector<AuxiliaryFilePtr> selected = selectedObjects();
     m_arrayController->rearrange(std::move(rows));
     if (!m_tableView)
@@ -291,8 +297,8 @@ void AuxiliaryFileBrowserController::openRow(int row)
         qCWarning(interfaceLog) << "Couldn't get auxiliary file";
     else if (!specification)
         qCWarning(interfaceLog) << "No loaded spec with this URL";
-    else
-        SpecificationManager::shared().showDetailViewController(specification);
+    else if (auto *manager = m_manager.get())
+        manager->showDetailViewController(specification);
 }
 
 // Adding and removing
@@ -330,13 +336,16 @@ void AuxiliaryFileBrowserController::chooseFile()
 
 void AuxiliaryFileBrowserController::removeSelection()
 {
+    auto *manager = m_manager.get();
+    if (!manager)
+        return;
     std::vector<Failure> failures;
     // The rows are read anew with each file that goes.
     for (const AuxiliaryFilePtr &row : selectedObjects()) {
         const std::vector<QUrl> urls = row->urls();
         for (const QUrl &url : urls) {
             try {
-                SpecificationManager::shared().unregisterAuxiliaryFile(url);
+                manager->unregisterAuxiliaryFile(url);
                 row->removeUrl(url);
             } catch (const std::exception &error) {
                 failures.emplace_back(url, error);
@@ -360,8 +369,11 @@ QStringList AuxiliaryFileBrowserController::importableTypes() const
 {
     if (!m_allowedFileTypes.isEmpty())
         return m_allowedFileTypes;
+    const auto *manager = m_manager.get();
+    if (!manager)
+        return {};
     QStringList types;
-    for (const auto &specification : SpecificationManager::shared().specifications()) {
+    for (const auto &specification : manager->specifications()) {
         for (const auto &requirement : specification->auxiliaryFileRequirements())
             types += requirement->fileType;
     }

@@ -11,6 +11,8 @@
 
 #include <Tavrin/interface/files/AuxiliaryFile.h>
 #include <Tavrin/interface/toolkit/ViewController.h>
+#include <Tavrin/manager/ManagerPointer.h>
+#include <Tavrin/manager/SpecificationManager.h>
 #include <Tavrin/platform/NotificationCenter.h>
 
 class QLabel;
@@ -24,7 +26,7 @@ class AuxiliaryFileImport;
 class FileDropOverlay;
 class SegmentedControl;
 
-/// The table from which users import the files of the shared manager's specifications, see which
+/// The table from which users import the files of a manager's specifications, see which
 /// specification each one satisfies, take files away, and open what they have.
 ///
 /// It follows the manager's list of files. Files come by a panel or by being dropped on the view;
@@ -34,9 +36,11 @@ class TAVRIN_WIDGETS_EXPORT AuxiliaryFileBrowserController : public ViewControll
     Q_OBJECT
 
 public:
-    static std::shared_ptr<AuxiliaryFileBrowserController> standard();
+    static std::shared_ptr<AuxiliaryFileBrowserController>
+    standard(SpecificationManager &manager = SpecificationManager::shared());
 
-    explicit AuxiliaryFileBrowserController(QObject *parent = nullptr);
+    explicit AuxiliaryFileBrowserController(
+        QObject *parent = nullptr, SpecificationManager &manager = SpecificationManager::shared());
     ~AuxiliaryFileBrowserController() override;
 
     /// The rows; empty before the view is loaded.
@@ -105,6 +109,7 @@ private:
     std::vector<AuxiliaryFilePtr> selectedObjects() const;
     void openRow(int row);
 
+    ManagerPointer m_manager;
     std::unique_ptr<AuxiliaryFileArrayController> m_arrayController;
     std::unique_ptr<AuxiliaryFileImport> m_import;
     QStringList m_allowedFileTypes;

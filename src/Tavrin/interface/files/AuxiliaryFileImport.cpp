@@ -2,7 +2,6 @@
 #include <Tavrin/interface/files/AuxiliaryFileImport.h>
 
 #include <Tavrin/interface/toolkit/InterfaceLog.h>
-#include <Tavrin/manager/SpecificationManager.h>
 #include <Tavrin/platform/StringLocalizer.h>
 
 #include <chrono>
@@ -32,7 +31,8 @@ AuxiliaryFileImport::Failure::Failure(const QUrl &file, const std::exception &er
     }
 }
 
-AuxiliaryFileImport::AuxiliaryFileImport(QObject *parent) : QObject(parent)
+AuxiliaryFileImport::AuxiliaryFileImport(QObject *parent, SpecificationManager &manager)
+    : QObject(parent), m_manager(manager)
 {
     m_turn.setSingleShot(true);
     connect(&m_turn, &QTimer::timeout, this, &AuxiliaryFileImport::importNext);
@@ -78,7 +78,9 @@ void AuxiliaryFileImport::showFailures(QWidget *window, const std::vector<Failur
 
 void AuxiliaryFileImport::importNext()
 {
-    if (m_waiting.empty()) {
+    auto *manager = m_manager.get();
+    if (m_waiting.empty() || !manager) {
+        m_waiting.clear();
         finish();
         return;
     }
@@ -86,7 +88,7 @@ void AuxiliaryFileImport::importNext()
     m_waiting.pop_front();
     try {
         // Its notification has the table read again, with the file in the row that it belongs to.
-        SpecificationManager::shared().registerAuxiliaryFile(url);
+        manager->registerAuxiliaryFile(url);
     } catch (const std::exception &error) {
         m_failures.emplace_back(url, error);
     }

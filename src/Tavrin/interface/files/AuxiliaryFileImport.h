@@ -11,15 +11,17 @@
 #include <vector>
 
 #include <Tavrin/interface/toolkit/ProgressSheet.h>
+#include <Tavrin/manager/ManagerPointer.h>
+#include <Tavrin/manager/SpecificationManager.h>
 
 namespace Tavrin
 {
 
-/// Imports files into the shared manager, behind a sheet that says so.
+/// Imports files into a manager, behind a sheet that says so.
 ///
 /// A manager is used by one thread, so each file holds up the event loop for as long as it takes.
 /// The sheet is on the screen before the first begins, and events are handled between two. One that
-/// is destroyed imports no more. Main thread.
+/// is destroyed, or whose manager is, imports no more. Main thread.
 class TAVRIN_WIDGETS_EXPORT AuxiliaryFileImport : public QObject
 {
     Q_OBJECT
@@ -35,7 +37,8 @@ public:
         QString suggestion;
     };
 
-    explicit AuxiliaryFileImport(QObject *parent = nullptr);
+    explicit AuxiliaryFileImport(QObject *parent = nullptr,
+                                 SpecificationManager &manager = SpecificationManager::shared());
     ~AuxiliaryFileImport() override;
 
     /// Returns at once. Files that come while others are imported are appended to them. Without a
@@ -55,6 +58,7 @@ private:
     void finish();
     void endSheet();
 
+    ManagerPointer m_manager;
     std::deque<QUrl> m_waiting;
     std::vector<Failure> m_failures;
     QPointer<ProgressSheet> m_sheet;

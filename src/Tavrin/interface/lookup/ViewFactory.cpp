@@ -65,12 +65,21 @@ ViewControllerPtr ViewFactory::error(const QString &message, const QString &butt
     return prompt;
 }
 
-ViewControllerPtr ViewFactory::auxiliaryFileBrowser(const std::optional<QString> &instruction)
+ViewControllerPtr ViewFactory::auxiliaryFileBrowser(SpecificationManager &manager,
+                                                    const std::optional<QString> &instruction)
 {
-    auto browser = AuxiliaryFileBrowserController::standard();
+    auto browser = AuxiliaryFileBrowserController::standard(manager);
     if (instruction)
         browser->setInstructionText(*instruction);
     return browser;
+}
+
+void ViewFactory::setManager(ViewController &view, SpecificationManager &manager)
+{
+    if (auto *summary = qobject_cast<SpecEntrySummaryViewController *>(&view))
+        summary->setManager(manager);
+    else if (auto *detail = qobject_cast<SpecPDFViewController *>(&view))
+        detail->setManager(manager);
 }
 
 bool ViewFactory::showReferenceCoverage(ViewController &detail, const ReferenceCoverage &coverage)

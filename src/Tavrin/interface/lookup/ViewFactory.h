@@ -19,7 +19,9 @@ public:
                                 const std::shared_ptr<SpecificationEntry> &entry) override;
     ViewControllerPtr error(const QString &message, const QString &buttonTitle,
                             std::function<void()> pressed) override;
-    ViewControllerPtr auxiliaryFileBrowser(const std::optional<QString> &instruction) override;
+    ViewControllerPtr auxiliaryFileBrowser(SpecificationManager &manager,
+                                           const std::optional<QString> &instruction) override;
+    void setManager(ViewController &view, SpecificationManager &manager) override;
     bool showReferenceCoverage(ViewController &detail, const ReferenceCoverage &coverage) override;
     /// Has the print of the primary specification measured in the background, so that the first
     /// view of it needn't. Of others the pages are read when they are shown: a host may have

@@ -5,7 +5,6 @@
 #include <Tavrin/interface/summary/SpecEntrySummaryCell.h>
 #include <Tavrin/interface/toolkit/InterfaceLog.h>
 #include <Tavrin/interface/toolkit/TableScrollView.h>
-#include <Tavrin/manager/SpecificationManager.h>
 #include <Tavrin/model/SpecURL.h>
 #include <Tavrin/model/SpecificationRegistry.h>
 #include <Tavrin/pdfspec/PDFSpecificationEntry.h>
@@ -67,9 +66,11 @@ std::optional<QUrl> openableURL(const QString &destination)
 
 } // namespace
 
-SpecEntrySummaryViewController::SpecEntrySummaryViewController(EntryPtr entry, QObject *parent)
+SpecEntrySummaryViewController::SpecEntrySummaryViewController(EntryPtr entry, QObject *parent,
+                                                               SpecificationManager &manager)
     : ViewController(parent),
       m_entry(std::move(entry)),
+      m_manager(manager),
       m_computation(std::make_unique<DisplayComputation>())
 {
     connect(m_computation.get(), &DisplayComputation::finished, this, [this] {
@@ -354,10 +355,11 @@ void SpecEntrySummaryViewController::showDetailView(
     const QString &label, const std::shared_ptr<Specification> &specification)
 {
     // Whoever hears of it may put this view away, and the label with it.
-    const auto display = [label, specification] {
-        SpecificationManager::shared().showDetailViewController(
-            label,
-            [&](const Specification &candidate) { return &candidate == specification.get(); });
+    const auto display = [label, specification, pointer = m_manager] {
+        if (auto *manager = pointer.get())
+            manager->showDetailViewController(label, [&](const Specification &candidate) {
+                return &candidate == specification.get();
+            });
     };
     Q_EMIT detailViewRequested(label, specification);
     display();

@@ -10,6 +10,8 @@
 #include <Tavrin/interface/summary/SpecEntrySummaryCellDelegate.h>
 #include <Tavrin/interface/toolkit/TableView.h>
 #include <Tavrin/interface/toolkit/ViewController.h>
+#include <Tavrin/manager/ManagerPointer.h>
+#include <Tavrin/manager/SpecificationManager.h>
 #include <Tavrin/model/Specification.h>
 #include <Tavrin/model/SpecificationEntry.h>
 
@@ -36,7 +38,9 @@ public:
     using EntryPtr = std::shared_ptr<SpecificationEntry>;
 
     /// Without an entry the view says that there is none.
-    explicit SpecEntrySummaryViewController(EntryPtr entry = nullptr, QObject *parent = nullptr);
+    explicit SpecEntrySummaryViewController(
+        EntryPtr entry = nullptr, QObject *parent = nullptr,
+        SpecificationManager &manager = SpecificationManager::shared());
     ~SpecEntrySummaryViewController() override;
 
     const EntryPtr &entry() const { return m_entry; }
@@ -57,12 +61,15 @@ public:
     TableView *tableView() const { return m_tableView; }
     QWidget *noContentView() const { return m_noContentView; }
 
-    /// Has the shared manager display a label's detail view, if it leads to an entry, else opens it
+    /// Displays what links lead to from now on.
+    void setManager(SpecificationManager &manager) { m_manager = ManagerPointer(manager); }
+
+    /// Has the manager display a label's detail view, if it leads to an entry, else opens it
     /// as a URL.
     void summaryCellClickedLink(const QString &destination) override;
 
 Q_SIGNALS:
-    /// A link to an entry was followed; the shared manager displays it next.
+    /// A link to an entry was followed; the manager displays it next.
     void detailViewRequested(const QString &label,
                              const std::shared_ptr<Tavrin::Specification> &specification);
     /// The rows are all there now.
@@ -88,6 +95,7 @@ private:
     void showDetailView(const QString &label, const std::shared_ptr<Specification> &specification);
 
     EntryPtr m_entry;
+    ManagerPointer m_manager;
     std::vector<EntryDisplayItem> m_customDisplayItems;
     std::unique_ptr<DisplayComputation> m_computation;
     bool m_isLoading = false;
