@@ -11,7 +11,6 @@
 #include <Tavrin/interface/sidebars/SpecPDFSearchCell.h>
 #include <Tavrin/interface/sidebars/SpecPDFSearchResult.h>
 #include <Tavrin/interface/sidebars/SpecPDFSearchViewController.h>
-#include <Tavrin/interface/toolkit/SerialBackground.h>
 #include <Tavrin/platform/BackgroundPool.h>
 
 #include "ListeningDelegate.h"

@@ -15,25 +15,43 @@ namespace
 /// Whether the application that runs, if any, will wait.
 std::atomic<bool> willBeWaitedFor = false;
 
-QThreadPool &pool()
+struct Pools {
+    Pools() { serial.setMaxThreadCount(1); }
+
+    QThreadPool parallel;
+    QThreadPool serial;
+};
+
+Pools &allPools()
 {
-    static QThreadPool threads;
-    return threads;
+    static Pools pools;
+    return pools;
 }
 
-void waitForPool()
+void waitForPools()
 {
     willBeWaitedFor = false;
-    pool().waitForDone();
+    allPools().parallel.waitForDone();
+    allPools().serial.waitForDone();
+}
+
+Pools &waitedPools()
+{
+    if (!willBeWaitedFor.exchange(true))
+        qAddPostRoutine(waitForPools);
+    return allPools();
 }
 
 } // namespace
 
 QThreadPool &backgroundPool()
 {
-    if (!willBeWaitedFor.exchange(true))
-        qAddPostRoutine(waitForPool);
-    return pool();
+    return waitedPools().parallel;
+}
+
+QThreadPool &serialBackground()
+{
+    return waitedPools().serial;
 }
 
 } // namespace Tavrin

@@ -15,4 +15,8 @@ namespace Tavrin
 /// them before it ends. Any thread.
 TAVRIN_CORE_EXPORT QThreadPool &backgroundPool();
 
+/// One thread more, for what is short and must be done in order. It isn't held up by what the
+/// others compute, and is waited for only when the application ends. Any thread.
+TAVRIN_CORE_EXPORT QThreadPool &serialBackground();
+
 } // namespace Tavrin

@@ -7,7 +7,7 @@
 #include <Tavrin/interface/sidebars/SpecPDFOutlineViewController.h>
 #include <Tavrin/interface/sidebars/SpecPDFSearchResult.h>
 #include <Tavrin/interface/sidebars/SpecPDFSearchViewController.h>
-#include <Tavrin/interface/toolkit/SerialBackground.h>
+#include <Tavrin/platform/BackgroundPool.h>
 #include <interface/SummaryFixture.h>
 #include <support/FinishTasks.h>
 

@@ -9,7 +9,7 @@
 #include <Tavrin/interface/toolkit/InterfaceLog.h>
 #include <Tavrin/interface/toolkit/RowChooser.h>
 #include <Tavrin/interface/toolkit/SearchFieldKeys.h>
-#include <Tavrin/interface/toolkit/SerialBackground.h>
+#include <Tavrin/platform/BackgroundPool.h>
 #include <Tavrin/platform/PoolTask.h>
 #include <Tavrin/platform/PostedTask.h>
 #include <Tavrin/platform/StringLocalizer.h>
