@@ -1418,5 +1418,80 @@ Wählen Sie ein Verzeichnis mit Karten unter Datei ▸ Karten öffnen.</translat
         <comment>aux file assignment error description</comment>
         <translation>%@ ist durch ein Passwort geschützt.</translation>
     </message>
+    <message>
+        <source>&amp;Undo</source>
+        <comment>menu item</comment>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <comment>menu item</comment>
+        <translation>&amp;Wiederholen</translation>
+    </message>
+    <message>
+        <source>C&amp;opy</source>
+        <comment>menu item</comment>
+        <translation>K&amp;opieren</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <comment>menu item</comment>
+        <translation>&amp;Alles auswählen</translation>
+    </message>
+    <message>
+        <source>&amp;Next Part</source>
+        <comment>menu item</comment>
+        <translation>&amp;Nächster Bereich</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Part</source>
+        <comment>menu item</comment>
+        <translation>&amp;Voriger Bereich</translation>
+    </message>
+    <message>
+        <source>&amp;Full Screen</source>
+        <comment>menu item</comment>
+        <translation>&amp;Vollbild</translation>
+    </message>
+    <message>
+        <source>&amp;Document</source>
+        <comment>menu</comment>
+        <translation>D&amp;okument</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <comment>menu</comment>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>&amp;Shortcuts</source>
+        <comment>menu item</comment>
+        <translation>&amp;Tastenkürzel</translation>
+    </message>
+    <message>
+        <source>&amp;About Tavrin</source>
+        <comment>menu item</comment>
+        <translation>&amp;Über Tavrin</translation>
+    </message>
+    <message>
+        <source>Reads specifications that exist only as PDFs.</source>
+        <comment>about</comment>
+        <translation>Liest Spezifikationen, die es nur als PDF gibt.</translation>
+    </message>
+    <message>
+        <source>Shortcuts</source>
+        <comment>title of a window</comment>
+        <translation>Tastenkürzel</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <comment>column of a list</comment>
+        <translation>Befehl</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <comment>column of a list</comment>
+        <translation>Tasten</translation>
+    </message>
 </context>
 </TS>

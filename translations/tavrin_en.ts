@@ -1418,5 +1418,80 @@ Choose a directory of spec maps with File ▸ Open Maps.</translation>
         <comment>aux file assignment error description</comment>
         <translation>%@ is protected by a password.</translation>
     </message>
+    <message>
+        <source>&amp;Undo</source>
+        <comment>menu item</comment>
+        <translation>&amp;Undo</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <comment>menu item</comment>
+        <translation>&amp;Redo</translation>
+    </message>
+    <message>
+        <source>C&amp;opy</source>
+        <comment>menu item</comment>
+        <translation>C&amp;opy</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <comment>menu item</comment>
+        <translation>Select &amp;All</translation>
+    </message>
+    <message>
+        <source>&amp;Next Part</source>
+        <comment>menu item</comment>
+        <translation>&amp;Next Part</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Part</source>
+        <comment>menu item</comment>
+        <translation>&amp;Previous Part</translation>
+    </message>
+    <message>
+        <source>&amp;Full Screen</source>
+        <comment>menu item</comment>
+        <translation>&amp;Full Screen</translation>
+    </message>
+    <message>
+        <source>&amp;Document</source>
+        <comment>menu</comment>
+        <translation>&amp;Document</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <comment>menu</comment>
+        <translation>&amp;Help</translation>
+    </message>
+    <message>
+        <source>&amp;Shortcuts</source>
+        <comment>menu item</comment>
+        <translation>&amp;Shortcuts</translation>
+    </message>
+    <message>
+        <source>&amp;About Tavrin</source>
+        <comment>menu item</comment>
+        <translation>&amp;About Tavrin</translation>
+    </message>
+    <message>
+        <source>Reads specifications that exist only as PDFs.</source>
+        <comment>about</comment>
+        <translation>Reads specifications that exist only as PDFs.</translation>
+    </message>
+    <message>
+        <source>Shortcuts</source>
+        <comment>title of a window</comment>
+        <translation>Shortcuts</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <comment>column of a list</comment>
+        <translation>Command</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <comment>column of a list</comment>
+        <translation>Keys</translation>
+    </message>
 </context>
 </TS>

@@ -11,7 +11,7 @@
 #include <Tavrin/platform/Translations.h>
 
 #include "ReaderArguments.h"
-#include "ReaderWindow.h"
+#include <reader/window/ReaderWindow.h>
 
 using namespace Tavrin::Reader;
 using namespace Qt::StringLiterals;

@@ -10,10 +10,10 @@
 #include <Tavrin/interface/tokens/TokenCompleter.h>
 #include <Tavrin/interface/tokens/TokenField.h>
 #include <Tavrin/interface/toolkit/Sheet.h>
-#include <reader/CitationModel.h>
-#include <reader/CitationWindow.h>
-#include <reader/ControllerPane.h>
-#include <reader/ControllerWindow.h>
+#include <reader/citing/CitationModel.h>
+#include <reader/citing/CitationWindow.h>
+#include <reader/panes/ControllerPane.h>
+#include <reader/panes/ControllerWindow.h>
 
 #include "ReaderFixture.h"
 

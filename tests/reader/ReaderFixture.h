@@ -10,9 +10,9 @@
 #include <Tavrin/interface/detail/SpecDetailViewController.h>
 #include <Tavrin/interface/summary/SpecEntrySummaryViewController.h>
 #include <Tavrin/interface/toolkit/Sheet.h>
-#include <reader/ControllerPane.h>
-#include <reader/LookupField.h>
-#include <reader/ReaderWindow.h>
+#include <reader/lookup/LookupField.h>
+#include <reader/panes/ControllerPane.h>
+#include <reader/window/ReaderWindow.h>
 #include <support/MapBuilder.h>
 #include <support/PDFBuilder.h>
 

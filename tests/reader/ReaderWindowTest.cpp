@@ -1,11 +1,15 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <QClipboard>
+#include <QFileDialog>
 #include <QGuiApplication>
 #include <QLabel>
 #include <QListView>
 #include <QMimeData>
+#include <QScreen>
 #include <QSettings>
+#include <QShortcut>
 #include <QTest>
+#include <QTreeWidget>
 
 #include <gmock/gmock.h>
 
@@ -14,11 +18,12 @@
 #include <Tavrin/interface/detail/SpecPDFViewer.h>
 #include <Tavrin/interface/summary/SpecEntrySummaryViewController.h>
 #include <Tavrin/interface/summary/SpecErrorViewController.h>
-#include <reader/ControllerPane.h>
-#include <reader/EntryPalette.h>
-#include <reader/LookupField.h>
-#include <reader/ReaderWindow.h>
-#include <reader/SuggestionModel.h>
+#include <reader/files/ReaderLibrary.h>
+#include <reader/lookup/EntryPalette.h>
+#include <reader/lookup/LookupField.h>
+#include <reader/lookup/SuggestionModel.h>
+#include <reader/panes/ControllerPane.h>
+#include <reader/window/ReaderWindow.h>
 
 #include "ReaderFixture.h"
 
@@ -46,6 +51,7 @@ TEST_F(ReaderWindowTest, ShowsSummaryAndDocumentOfWhatIsLookedUp)
     const auto opened = detail();
     window.lookUp(u"3"_s);
     EXPECT_EQ(detail(), opened) << "the document stays open";
+    EXPECT_EQ(manager.currentDetailViewController(), opened) << "and no other was made for it";
     EXPECT_EQ(detailLabel(), u"3"_s);
     EXPECT_THAT(window.windowTitle().toStdString(), HasSubstr("The Manual"));
 }
@@ -159,6 +165,7 @@ TEST_F(ReaderWindowTest, TakesSettingsOfOthersForNone)
     next.show();
     EXPECT_EQ(next.findChild<QListView *>(u"recentPlaces"_s)->model()->rowCount(), 1);
     EXPECT_GT(next.width(), 400);
+    EXPECT_LT(next.width(), next.screen()->availableGeometry().width());
     EXPECT_GT(next.detailPane().width(), 100);
 }
 
@@ -230,6 +237,97 @@ TEST_F(ReaderWindowTest, CopiesEntriesInThreeForms)
     QTest::keyClick(window.focusWidget(), Qt::Key_Escape);
     QTest::keyClick(&window, Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_THAT(copied(), HasSubstr("spec://2/manual"));
+}
+
+/// Keys that count while the document has the focus, with what they are for.
+TEST_F(ReaderWindowTest, NoTwoShortcutsMeet)
+{
+    openAll();
+    window.lookUp(u"2"_s);
+    QHash<QKeySequence, QString> taken;
+    const auto take = [&](const QKeySequence &keys, const QString &name) {
+        EXPECT_FALSE(taken.contains(keys))
+            << keys.toString().toStdString() << ": " << taken.value(keys).toStdString() << " and "
+            << name.toStdString();
+        taken.insert(keys, name);
+    };
+    for (const auto *action : window.findChildren<QAction *>()) {
+        for (const QKeySequence &keys : action->shortcuts()) {
+            if (action->shortcutContext() != Qt::WidgetShortcut)
+                take(keys, action->text());
+        }
+    }
+    for (const auto *shortcut : window.findChildren<QShortcut *>()) {
+        if (shortcut->context() != Qt::WidgetShortcut)
+            take(shortcut->key(), u"shortcut"_s);
+    }
+    EXPECT_TRUE(taken.contains(u"Ctrl+K"_s));
+    EXPECT_TRUE(taken.contains(u"Ctrl+F"_s)) << "those of the document are there";
+
+    QTest::keyClick(&window, Qt::Key_F1);
+    const auto *list = window.findChild<QTreeWidget *>();
+    ASSERT_TRUE(list);
+    const auto isListed = [list](const QString &name) {
+        return !list->findItems(name, Qt::MatchExactly | Qt::MatchRecursive).isEmpty();
+    };
+    EXPECT_TRUE(isListed(u"Look Up"_s));
+    EXPECT_TRUE(isListed(u"Find"_s));
+    EXPECT_TRUE(isListed(u"Copy"_s));
+}
+
+TEST_F(ReaderWindowTest, LeadsRoundItsParts)
+{
+    openAll();
+    window.lookUp(u"2"_s);
+    window.lookupField().setFocus();
+    const auto isIn = [this](const QWidget &part) {
+        return part.isAncestorOf(window.focusWidget()) || &part == window.focusWidget();
+    };
+    const auto &parts = detail()->childViewControllers();
+    int visited = 0;
+    bool wasInSidebar = false;
+    bool wasInDocument = false;
+    do {
+        QTest::keyClick(window.focusWidget(), Qt::Key_F6);
+        wasInSidebar = wasInSidebar || isIn(*parts.front()->view());
+        wasInDocument = wasInDocument || isIn(*parts.back()->view());
+    } while (!isIn(window.lookupField()) && ++visited < 10);
+    EXPECT_TRUE(wasInSidebar && wasInDocument);
+    EXPECT_TRUE(isIn(window.lookupField()));
+    QTest::keyClick(window.focusWidget(), Qt::Key_F6, Qt::ShiftModifier);
+    EXPECT_TRUE(isIn(*parts.back()->view()));
+}
+
+TEST_F(ReaderWindowTest, ShowsTheNextDocumentAsTheLast)
+{
+    openAll();
+    window.lookUp(u"2"_s);
+    const auto command = [](const ReaderWindow &shown, const QString &name) {
+        return shown.detailPane().controller()->view()->findChild<QAction *>(name);
+    };
+    ASSERT_TRUE(QTest::qWaitFor([&] { return command(window, u"fitPage"_s)->isEnabled(); }));
+    command(window, u"fitPage"_s)->trigger();
+    command(window, u"invertedPages"_s)->trigger();
+    ReaderWindow next(manager);
+    next.show();
+    next.lookUp(u"1"_s);
+    EXPECT_TRUE(command(next, u"invertedPages"_s)->isChecked());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return command(next, u"fitPage"_s)->isChecked(); }));
+}
+
+TEST_F(ReaderWindowTest, AsksForFilesWhereTheLastOnesWere)
+{
+    openMaps();
+    window.library().chooseFiles();
+    auto *dialog = window.findChild<QFileDialog *>();
+    ASSERT_TRUE(dialog);
+    dialog->findChild<QLineEdit *>(u"fileNameEdit"_s)->setText(document.toLocalFile());
+    static_cast<QDialog *>(dialog)->accept();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    window.library().chooseFiles();
+    dialog = window.findChild<QFileDialog *>();
+    ASSERT_TRUE(dialog);
+    EXPECT_EQ(dialog->directory(), QDir(files.path()));
 }
 
 TEST_F(ReaderWindowTest, NamesWhatIsWrongWithAMap)

@@ -108,6 +108,9 @@ void DetailToolBar::addZoom()
                    QKeyCombination(Qt::CTRL, Qt::Key_0));
     m_fitPage = addCommand(IconShape::FitPage, localized("Fit Page", "Tool bar of the detail view"),
                            QKeyCombination(Qt::CTRL, Qt::Key_9));
+    // Hosts find them by these names.
+    m_fitWidth->setObjectName(QStringLiteral("fitWidth"));
+    m_fitPage->setObjectName(QStringLiteral("fitPage"));
     m_fitWidth->setCheckable(true);
     m_fitPage->setCheckable(true);
     connect(m_zoomOut, &QAction::triggered, &m_view, [this] { m_view.zoomOut(); });
@@ -147,6 +150,7 @@ void DetailToolBar::addFind()
     m_invert =
         addCommand(IconShape::Invert, localized("Inverted Pages", "Tool bar of the detail view"),
                    QKeyCombination(Qt::CTRL, Qt::Key_I));
+    m_invert->setObjectName(QStringLiteral("invertedPages"));
     m_invert->setCheckable(true);
     connect(m_find, &QAction::triggered, &m_view, &HostPDFView::showFindBar);
     connect(m_invert, &QAction::triggered, &m_view, &HostPDFView::setColorsInverted);

@@ -4,9 +4,10 @@
 #include <Tavrin/interface/detail/CustomDividerSplitView.h>
 #include <Tavrin/interface/detail/DetailToolBar.h>
 #include <Tavrin/interface/pdfview/HostPDFView.h>
+#include <Tavrin/interface/toolkit/FocusTraversal.h>
 #include <Tavrin/interface/toolkit/NoticeBar.h>
 
-#include <QShortcut>
+#include <QKeyEvent>
 #include <QSignalBlocker>
 
 #include "ui_SpecPDFView.h"
@@ -32,9 +33,6 @@ DetailView::DetailView(QWidget *parent) : QWidget(parent)
     m_splitView = form.splitView;
     m_noticeBar = form.noticeBar;
     connect(m_splitView, &QSplitter::splitterMoved, this, &DetailView::updateSidebarAction);
-    for (const QKeySequence &keys :
-         {QKeySequence(Qt::Key_F6), QKeySequence(Qt::SHIFT | Qt::Key_F6)})
-        new QShortcut(keys, this, this, &DetailView::switchPart, Qt::WidgetWithChildrenShortcut);
 }
 
 void DetailView::addPart(QWidget &part)
@@ -91,6 +89,14 @@ void DetailView::updateSidebarAction()
         m_toolBar->sidebarAction()->setChecked(isSidebarShown());
 }
 
+void DetailView::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_F6 && (event->modifiers() & ~Qt::ShiftModifier) == Qt::NoModifier)
+        switchPart();
+    else
+        QWidget::keyPressEvent(event);
+}
+
 void DetailView::switchPart()
 {
     const QWidget *focused = window()->focusWidget();
@@ -106,17 +112,7 @@ void DetailView::focusSidebar()
     if (!sidebar())
         return;
     showSidebar(true);
-    const auto takesFocus = [this](const QWidget *widget) {
-        return widget && sidebar()->isAncestorOf(widget) && widget->isVisible() &&
-               widget->isEnabled() && (widget->focusPolicy() & Qt::TabFocus) == Qt::TabFocus;
-    };
-    // Where one was, else where the Tab key leads to first.
-    QWidget *target = sidebar()->focusWidget();
-    for (QWidget *next = sidebar()->nextInFocusChain(); !takesFocus(target) && next != sidebar();
-         next = next->nextInFocusChain())
-        target = next;
-    if (takesFocus(target))
-        target->setFocus(Qt::ShortcutFocusReason);
+    FocusTraversal::enter(*sidebar());
 }
 
 } // namespace Tavrin

@@ -15,7 +15,8 @@ class NoticeBar;
 /// The view of the detail view's controller: notices and the parts of the split view, and above
 /// them the tool bar once there is a document to command.
 ///
-/// F6 leads from the sidebar to the document and back. Main thread.
+/// F6 leads from the sidebar to the document and back, unless the window has a use for that key.
+/// Main thread.
 class DetailView : public QWidget
 {
     Q_OBJECT
@@ -37,6 +38,9 @@ public:
     void showSidebar(bool shown);
     /// To the other part.
     void switchPart();
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
 
 private:
     QWidget *sidebar() const;

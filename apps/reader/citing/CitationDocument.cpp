@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "CitationDocument.h"
+#include <reader/citing/CitationDocument.h>
 
 #include <QFile>
 #include <QJsonArray>

@@ -26,6 +26,10 @@ public:
     void setController(const ViewControllerPtr &controller);
     void setPlaceholder(const QString &text);
 
+Q_SIGNALS:
+    /// The view of another controller is on show; null for the placeholder.
+    void shown(QWidget *view);
+
 private:
     QStackedLayout *m_layout;
     QLabel *m_placeholder;

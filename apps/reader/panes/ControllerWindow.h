@@ -8,6 +8,8 @@
 namespace Tavrin::Reader
 {
 
+class ControllerPane;
+
 /// A window of its own for the view of a controller, which it keeps. It is called as the
 /// controller is, and remembers its place under a name. Deletes itself when closed.
 class ControllerWindow : public QWidget
@@ -20,7 +22,7 @@ public:
     static ControllerWindow *show(const ViewControllerPtr &controller, const QString &name,
                                   QWidget &owner);
 
-    const ViewControllerPtr &controller() const { return m_controller; }
+    const ViewControllerPtr &controller() const;
 
 protected:
     void closeEvent(QCloseEvent *event) override;
@@ -30,7 +32,7 @@ private:
     void setController(const ViewControllerPtr &controller);
     QString geometryKey() const;
 
-    ViewControllerPtr m_controller;
+    ControllerPane *m_pane;
 };
 
 } // namespace Tavrin::Reader

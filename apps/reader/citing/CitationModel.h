@@ -3,7 +3,7 @@
 
 #include <QAbstractListModel>
 
-#include "CitationDocument.h"
+#include <reader/citing/CitationDocument.h>
 
 namespace Tavrin::Reader
 {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "ControllerPane.h"
+#include <reader/panes/ControllerPane.h>
 
 #include <QLabel>
 #include <QStackedLayout>
@@ -34,10 +34,12 @@ void ControllerPane::setController(const ViewControllerPtr &controller)
     m_controller = controller;
     if (!controller) {
         m_layout->setCurrentWidget(m_placeholder);
+        Q_EMIT shown(nullptr);
         return;
     }
     m_layout->addWidget(controller->view());
     m_layout->setCurrentWidget(controller->view());
+    Q_EMIT shown(controller->view());
 }
 
 void ControllerPane::setPlaceholder(const QString &text)

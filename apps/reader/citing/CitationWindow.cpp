@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "CitationWindow.h"
+#include <reader/citing/CitationWindow.h>
 
 #include <QCloseEvent>
 #include <QFileDialog>
@@ -18,7 +18,8 @@
 #include <Tavrin/interface/toolkit/Sheet.h>
 #include <Tavrin/platform/StringLocalizer.h>
 
-#include "CitationModel.h"
+#include <reader/citing/CitationModel.h>
+#include <reader/panes/Complaint.h>
 
 namespace Tavrin::Reader
 {
@@ -52,7 +53,7 @@ QStringList strings(const QVariant &objectValue)
 
 } // namespace
 
-CitationWindow::CitationWindow(QWidget *parent)
+CitationWindow::CitationWindow(SpecificationManager &manager, QWidget *parent)
     : QMainWindow(parent),
       m_model(new CitationModel(this)),
       m_list(new QListView),
@@ -60,7 +61,7 @@ CitationWindow::CitationWindow(QWidget *parent)
       m_form(new QWidget),
       m_text(new QPlainTextEdit),
       m_tokens(new TokenField),
-      m_tokenDelegate(SpecEntryTokenFieldDelegate::make(*m_tokens))
+      m_tokenDelegate(SpecEntryTokenFieldDelegate::make(*m_tokens, manager))
 {
     setAttribute(Qt::WA_DeleteOnClose);
     resize(firstSize);
@@ -159,8 +160,7 @@ void CitationWindow::open(const QString &path)
         showDocument(CitationDocument::read(path));
         setPath(path);
     } catch (const CitationDocument::Error &error) {
-        Sheet::showMessage(*this, localized("The citations could not be opened.", "alert"),
-                           QString::fromUtf8(error.what()));
+        complain(*this, localized("The citations could not be opened.", "alert"), error);
     }
 }
 
@@ -172,8 +172,7 @@ bool CitationWindow::save(const QString &path)
         setPath(path);
         return true;
     } catch (const CitationDocument::Error &error) {
-        Sheet::showMessage(*this, localized("The citations could not be saved.", "alert"),
-                           QString::fromUtf8(error.what()));
+        complain(*this, localized("The citations could not be saved.", "alert"), error);
         return false;
     }
 }
@@ -244,14 +243,15 @@ ReferenceCoverage CitationWindow::references() const
     return references;
 }
 
+FileChooser CitationWindow::chooser()
+{
+    return {u"Citations"_s, localized("Open Citations", "title of a dialog"),
+            QFileDialog::ExistingFile, fileFilter()};
+}
+
 void CitationWindow::chooseFile()
 {
-    auto *dialog =
-        new QFileDialog(this, localized("Open Citations", "title of a dialog"), {}, fileFilter());
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setFileMode(QFileDialog::ExistingFile);
-    connect(dialog, &QFileDialog::fileSelected, this, &CitationWindow::open);
-    dialog->open();
+    chooser().open(*this, [this](const QStringList &paths) { open(paths.front()); });
 }
 
 void CitationWindow::chooseName(const std::function<void()> &then)

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "ControllerWindow.h"
+#include <reader/panes/ControllerWindow.h>
 
 #include <QSettings>
 #include <QShortcut>
 #include <QVBoxLayout>
+
+#include <reader/panes/ControllerPane.h>
 
 namespace Tavrin::Reader
 {
@@ -31,30 +33,29 @@ ControllerWindow *ControllerWindow::show(const ViewControllerPtr &controller, co
 }
 
 ControllerWindow::ControllerWindow(const QString &name, QWidget &owner)
-    : QWidget(&owner, Qt::Window)
+    : QWidget(&owner, Qt::Window), m_pane(new ControllerPane({}))
 {
     setObjectName(name);
     setAttribute(Qt::WA_DeleteOnClose);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
+    layout->addWidget(m_pane);
     auto *close = new QShortcut(QKeySequence::Close, this);
     connect(close, &QShortcut::activated, this, &QWidget::close);
     if (!restoreGeometry(QSettings().value(geometryKey()).toByteArray()))
         resize(firstSize);
 }
 
+const ViewControllerPtr &ControllerWindow::controller() const
+{
+    return m_pane->controller();
+}
+
 void ControllerWindow::setController(const ViewControllerPtr &controller)
 {
-    if (m_controller) {
-        m_controller->disconnect(this);
-        if (QWidget *view = m_controller->view())
-            view->setParent(nullptr);
-        // Its button may have led here.
-        QMetaObject::invokeMethod(
-            this, [former = m_controller] {}, Qt::QueuedConnection);
-    }
-    m_controller = controller;
-    layout()->addWidget(controller->view());
+    if (m_pane->controller())
+        m_pane->controller()->disconnect(this);
+    m_pane->setController(controller);
     setWindowTitle(controller->title());
     connect(controller.get(), &ViewController::titleChanged, this, &QWidget::setWindowTitle);
 }

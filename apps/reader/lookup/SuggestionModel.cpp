@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "SuggestionModel.h"
+#include <reader/lookup/SuggestionModel.h>
 
 #include <utility>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "LookupField.h"
+#include <reader/lookup/LookupField.h>
 
 #include <QAbstractItemView>
 #include <QCompleter>
@@ -9,8 +9,8 @@
 
 #include <Tavrin/platform/StringLocalizer.h>
 
-#include "SuggestionDelegate.h"
-#include "SuggestionModel.h"
+#include <reader/lookup/SuggestionDelegate.h>
+#include <reader/lookup/SuggestionModel.h>
 
 namespace Tavrin::Reader
 {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "EntryPalette.h"
+#include <reader/lookup/EntryPalette.h>
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -12,8 +12,8 @@
 #include <Tavrin/interface/clipboard/EntryClipboard.h>
 #include <Tavrin/platform/StringLocalizer.h>
 
-#include "SuggestionDelegate.h"
-#include "SuggestionModel.h"
+#include <reader/lookup/SuggestionDelegate.h>
+#include <reader/lookup/SuggestionModel.h>
 
 namespace Tavrin::Reader
 {

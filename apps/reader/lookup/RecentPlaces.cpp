@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "RecentPlaces.h"
+#include <reader/lookup/RecentPlaces.h>
 
 #include <QSettings>
 

@@ -5,6 +5,7 @@
 
 #include <Tavrin/interface/toolkit/ViewController.h>
 #include <Tavrin/manager/EntryFinder.h>
+#include <Tavrin/manager/SpecificationManager.h>
 #include <Tavrin/model/ReferenceCoverage.h>
 #include <Tavrin/pdfspec/PDFSpecification.h>
 
@@ -25,8 +26,8 @@ public:
     /// The first one's that leads into the specification; null without a specification.
     const std::shared_ptr<SpecificationEntry> &firstEntry() const { return m_firstEntry; }
 
-    /// A browser of them, with a column for what refers.
-    ViewControllerPtr browser() const;
+    /// A browser of them that opens entries by the manager, with a column for what refers.
+    ViewControllerPtr browser(SpecificationManager &manager) const;
 
     /// The references of a file, one a line. Throws what is wrong with the file.
     static ReferenceCoverage readFile(const QString &path);

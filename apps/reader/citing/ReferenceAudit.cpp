@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "ReferenceAudit.h"
+#include <reader/citing/ReferenceAudit.h>
 
 #include <QFile>
 
@@ -76,7 +76,7 @@ ReferenceAudit::ReferenceAudit(EntryFinder &finder, const ReferenceCoverage &ref
     }
 }
 
-ViewControllerPtr ReferenceAudit::browser() const
+ViewControllerPtr ReferenceAudit::browser(SpecificationManager &manager) const
 {
     QStringList labels;
     SpecAuditBrowserController::Components components;
@@ -86,7 +86,7 @@ ViewControllerPtr ReferenceAudit::browser() const
     }
     return std::make_shared<SpecAuditBrowserController>(
         labels, m_specification, QStringList{localized("Cited In", "column of an audit")},
-        components);
+        components, nullptr, manager);
 }
 
 ReferenceCoverage ReferenceAudit::readFile(const QString &path)

@@ -8,7 +8,8 @@
 
 #include <Tavrin/model/ReferenceCoverage.h>
 
-#include "CitationDocument.h"
+#include <reader/citing/CitationDocument.h>
+#include <reader/files/FileChooser.h>
 
 class QListView;
 class QPlainTextEdit;
@@ -17,6 +18,7 @@ namespace Tavrin
 {
 class SegmentedControl;
 class SpecEntryTokenFieldDelegate;
+class SpecificationManager;
 class TokenField;
 } // namespace Tavrin
 
@@ -32,8 +34,12 @@ class CitationWindow : public QMainWindow
     Q_OBJECT
 
 public:
-    explicit CitationWindow(QWidget *parent = nullptr);
+    /// Cites entries that the manager knows.
+    explicit CitationWindow(SpecificationManager &manager, QWidget *parent = nullptr);
     ~CitationWindow() override;
+
+    /// Asks for a file with a document.
+    static FileChooser chooser();
 
     /// Shows the document of a file; a broken one is told, and nothing changes.
     void open(const QString &path);

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "SuggestionDelegate.h"
+#include <reader/lookup/SuggestionDelegate.h>
 
 #include <QApplication>
 #include <QPainter>
 
-#include "SuggestionModel.h"
+#include <reader/lookup/SuggestionModel.h>
 
 namespace Tavrin::Reader
 {

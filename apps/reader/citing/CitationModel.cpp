@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "CitationModel.h"
+#include <reader/citing/CitationModel.h>
 
 #include <utility>
 
