@@ -18,6 +18,7 @@ namespace
 /// that it reads.
 QString readInBackground(const std::shared_ptr<Tavrin::PDFSpecification::Entry> &entry)
 {
+    //! [read]
     const auto specification =
         std::static_pointer_cast<Tavrin::PDFSpecification>(entry->specification());
     auto reading = std::async(std::launch::async, [entry, specification] {
@@ -26,6 +27,7 @@ QString readInBackground(const std::shared_ptr<Tavrin::PDFSpecification::Entry> 
         return text ? text->string() : QString();
     });
     return reading.get();
+    //! [read]
 }
 
 void print(const Tavrin::EntryFinder::EntryPtr &entry)
@@ -46,6 +48,7 @@ int main(int argc, char *argv[])
         manager.loadSpecInformation(QUrl::fromLocalFile(arguments.at(1)));
         if (arguments.size() > 3)
             manager.bindAuxiliaryFile(QUrl::fromLocalFile(arguments.at(3)));
+        //! [resolve]
         bool isFound = false;
         for (const auto &reference : Tavrin::EntryFinder(manager).resolve(arguments.at(2))) {
             for (const auto &entry : reference.entries) {
@@ -54,6 +57,7 @@ int main(int argc, char *argv[])
             }
         }
         return isFound ? 0 : 1;
+        //! [resolve]
     } catch (const std::exception &error) {
         // It names the file and the fault.
         QTextStream(stderr) << QString::fromUtf8(error.what()) << '\n';

@@ -20,12 +20,17 @@ int main(int argc, char *argv[])
     QCoreApplication::setApplicationName(QStringLiteral("minimal"));
     const auto translator = Tavrin::installTranslations(QLocale());
 
+    //! [load]
     auto &manager = Tavrin::SpecificationManager::shared();
     manager.loadSpecInformation(QUrl::fromLocalFile(application.arguments().at(1)));
+    //! [load]
+    //! [bind]
     if (application.arguments().size() > 2)
         manager.bindAuxiliaryFile(QUrl::fromLocalFile(application.arguments().at(2)));
+    //! [bind]
 
     QMainWindow window;
+    //! [display]
     Tavrin::ViewControllerPtr shown;
     manager.setDetailViewControllerDisplayBlock([&](const Tavrin::ViewControllerPtr &controller) {
         const auto former = shown;
@@ -37,13 +42,16 @@ int main(int argc, char *argv[])
     manager.setAuxiliaryFileBrowserDisplayBlock([&](const Tavrin::ViewControllerPtr &controller) {
         Tavrin::Popover::show(controller, window.rect(), window);
     });
+    //! [display]
 
     QLineEdit field;
     field.setPlaceholderText(QStringLiteral("Label"));
     window.setMenuWidget(&field);
     QObject::connect(&field, &QLineEdit::returnPressed, &field, [&] {
+        //! [show]
         manager.showDetailViewController(field.text());
         Tavrin::Popover::show(manager.summaryLookup(field.text()), field.rect(), field);
+        //! [show]
     });
 
     window.resize(900, 700);

@@ -3,6 +3,7 @@
 
 #include "TextSpecification.h"
 
+//! [display]
 std::vector<Tavrin::EntryDisplayItem> TextEntry::displayItems() const
 {
     auto items = SpecificationEntry::displayItems();
@@ -13,3 +14,4 @@ std::vector<Tavrin::EntryDisplayItem> TextEntry::displayItems() const
     }
     return items;
 }
+//! [display]

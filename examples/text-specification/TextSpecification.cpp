@@ -30,6 +30,7 @@ QString heading(const Tavrin::SpecificationEntry &entry)
 
 } // namespace
 
+//! [register]
 void TextSpecification::registerType()
 {
     const auto needsText = [](const Tavrin::Specification &specification) {
@@ -38,12 +39,16 @@ void TextSpecification::registerType()
     };
     registerSpecType(Tavrin::SpecType::of<TextSpecification>(), true, needsText);
 }
+//! [register]
 
+//! [entry class]
 Tavrin::EntryClass TextSpecification::entryClass() const
 {
     return Tavrin::EntryClass::of<TextEntry>();
 }
+//! [entry class]
 
+//! [files]
 bool TextSpecification::doesAuxiliaryFile(const QUrl &url,
                                           const Tavrin::AuxiliaryFileRequirement &requirement)
 {
@@ -59,6 +64,7 @@ bool TextSpecification::assignAuxiliaryFile(const QUrl &url,
     m_text = read(url);
     return true;
 }
+//! [files]
 
 std::pair<qsizetype, qsizetype>
 TextSpecification::section(const Tavrin::SpecificationEntry &entry) const
