@@ -7,6 +7,9 @@ namespace Tavrin
 {
 
 /// One reference of the work that is audited.
+///
+///     const std::vector<AuditReference> references{
+///         {QStringLiteral("4.2.1"), QStringLiteral("REQ-12"), QStringLiteral("refs.txt:3")}};
 struct AuditReference {
     /// A label, a spec URL, or a reference as people write it: "§ 4.2", "Fig. 3-7", "4.1-4.3".
     QString reference;

@@ -16,17 +16,25 @@
 namespace Tavrin
 {
 
-/// What an audit asks for besides what it finds.
+/// What an audit asks for besides what it finds. By default nothing is demanded. What came of it is
+/// in AuditReport::requirements and AuditReport::areDemandsMet().
 struct AuditDemands {
     /// Patterns of entries that have to be cited, each by itself: "*" stands for any characters,
     /// "?" for one. Held against label, number ("4.2.1") and name ("Figure 3-7"), in any case.
+    ///
+    /// A demand is met by a citation of the entry itself; that what lies above it is cited is not
+    /// enough. A pattern that matches nothing is not met.
     QStringList required;
-    /// The percentage that has to be covered.
+    /// The percentage that has to be covered. From 0 to 100; compared with what is really covered,
+    /// not with the share as it is printed.
     std::optional<double> minimumCoverage{};
 };
 
 /// What a list of references covers of a specification, by itself without any text of it. Made by
 /// PDFSpecAuditor::report(); the same in every format that it is written in.
+///
+/// A value that keeps the specification and its entries alive. Writing it reads the texts
+/// (PDFSpecAuditor::write), and AuditSentences puts the counts into words.
 struct TAVRIN_CORE_EXPORT AuditReport {
     using EntryPtr = std::shared_ptr<SpecificationEntry>;
 
@@ -40,18 +48,21 @@ struct TAVRIN_CORE_EXPORT AuditReport {
     /// An entry, or a part of one, with all that cites it.
     struct Citation {
         EntryPtr entry;
+        /// In the order in which they were given.
         std::vector<AuditReference> references;
         std::vector<Relation> related;
         /// The position of its chapter in `chapters`.
         std::size_t chapter = 0;
     };
 
-    /// A reference that no entry answers to.
+    /// A reference that no entry answers to. A reference to several entries may be known in part.
     struct Unknown {
         AuditReference reference;
         /// The part of the reference that is unknown: "Tables 2.9" of "Tables 2.1 and 2.9".
         QString written;
         /// The entry that was perhaps meant, or null.
+        ///
+        /// A suggestion for people; it is counted nowhere.
         EntryPtr nearest;
     };
 
@@ -60,6 +71,7 @@ struct TAVRIN_CORE_EXPORT AuditReport {
     struct Chapter {
         /// Null for figures and tables that lie in no chapter.
         EntryPtr entry;
+        /// Of what lies below it, however deep.
         AuditShare share{};
         /// How many of its entries are cited by themselves, itself included.
         int cited = 0;
@@ -78,6 +90,7 @@ struct TAVRIN_CORE_EXPORT AuditReport {
         bool isMet() const { return matched > 0 && missing.empty(); }
     };
 
+    /// What was audited.
     std::shared_ptr<PDFSpecification> specification;
     /// How many references were given.
     int referenceCount = 0;
@@ -90,11 +103,15 @@ struct TAVRIN_CORE_EXPORT AuditReport {
     std::vector<Chapter> chapters;
     /// The sum of the chapters.
     AuditShare coverage;
+    /// One for each pattern of the demands, in their order.
     std::vector<Requirement> requirements;
+    /// As it was demanded.
     std::optional<double> minimumCoverage;
 
     /// How many entries are cited; parts of one entry count once.
     int citedEntries() const;
+    /// Whether as much is covered as was demanded: true without such a demand, and where there is
+    /// nothing to cover.
     bool isCoverageMet() const;
     /// Whether every demand is met. Unknown references are no matter of demands.
     bool areDemandsMet() const;

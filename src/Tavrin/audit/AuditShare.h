@@ -7,6 +7,8 @@ namespace Tavrin
 {
 
 /// How many of a number of entries are covered.
+///
+/// Shares add up: a whole is the sum of its parts.
 struct AuditShare {
     int covered = 0;
     int all = 0;
@@ -14,6 +16,7 @@ struct AuditShare {
     /// Rounded down to a tenth, so that 100 means all of them; 100 where there is nothing to cover.
     double percent() const { return all == 0 ? 100 : std::floor(1000.0 * covered / all) / 10; }
 
+    /// Counts another part to this one. No entry may be in both.
     AuditShare &operator+=(const AuditShare &other)
     {
         covered += other.covered;

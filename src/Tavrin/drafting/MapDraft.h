@@ -14,8 +14,10 @@
 namespace Tavrin
 {
 
-/// A heading or caption of a document, as a map will name it.
+/// A heading or caption of a document, as a map will name it. A host may change, add and drop
+/// entries before it turns the draft into a map.
 struct DraftEntry {
+    /// Of headings, the uppermost level of the document is Chapter.
     SpecificationEntryType type = SpecificationEntryType::Section;
     /// Sorts in document order. Letters have no place in it: appendix A of a document with eight
     /// chapters is [9].
@@ -31,12 +33,18 @@ struct DraftEntry {
     Point place;
 };
 
-/// What a document tells of itself, enough for a first map of it.
+/// What a document tells of itself, enough for a first map of it. All of it may be changed before
+/// MapDrafter::specification is called. `identifier` and `revision` end up in spec URLs, which
+/// hosts store: settle them before the map is shipped.
 struct MapDraft {
     /// Never empty.
     QString title;
+    /// The title, at first.
     QString shortTitle;
+    /// Made of the title, in small letters and digits with hyphens between words. Never empty.
     QString identifier;
+    /// As the title or the first pages have it, behind a word such as "version"; "1" where they
+    /// don't.
     QString revision;
     /// Empty where the document names none.
     QString language;

@@ -9,6 +9,9 @@ namespace Tavrin
 /// An enhancer for PDFs whose named destinations are of no use: sections and chapters are taken
 /// from the outline, those that it leaves out are looked for on the pages; figures and tables are
 /// found by their captions, in the regions of the pages that break the text layout.
+///
+/// What `tavrin enhance` takes where the document's own names say nothing. Used as PDFXMLEnhancer
+/// is, by PDFXMLEnhancer::matched.
 class TAVRIN_CORE_EXPORT PDFDestinationApproximator : public PDFXMLEnhancer
 {
 public:

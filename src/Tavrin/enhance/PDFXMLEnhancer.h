@@ -26,14 +26,18 @@ struct Edge;
 }
 
 /// Why a PDF can't be paired with a map.
+///
+/// PDFDestinationApproximator pairs such documents without either.
 class TAVRIN_CORE_EXPORT EnhancerParseError : public std::runtime_error
 {
 public:
+    /// What is missing.
     enum class Kind {
         /// Neither the PDF has named destinations nor the map a link.
         NoInternalLinks,
     };
 
+    /// The message is the same for all.
     explicit EnhancerParseError(Kind kind);
 
     Kind kind;
@@ -42,22 +46,33 @@ public:
 /// Makes a whole map out of a skeleton (labels, titles, types, numbers) and the PDF: links,
 /// keywords, related entries.
 ///
-///     const auto enhancer = PDFXMLEnhancer::matched<PDFXMLEnhancer>(skeleton, pdf);
-///     enhancer->setRequiredLinkMarkers({});
-///     enhancer->loadStructure();
-///     const QString map = enhancer->writeSpecToXMLString(dtd);
+/// \snippet making-maps/main.cpp enhance
 ///
 /// All of it happens while the PDF is loaded, in one pass on the calling thread, with progress on
 /// standard output and warnings on standard error. Afterwards this is a specification like any
 /// other. The tuning fields count for what is computed after they are set; extractEntryKeywords()
 /// and computeRelatedEntries() may be called again.
+///
+/// Pairing by names suits documents whose producers number their destinations in the order of the
+/// document; setRequiredLinkMarkers() and its kin say which names those are, and the defaults are
+/// made for one family of documents: a host for others sets them, as in the example. Reading takes
+/// as long as all summaries of a document do together, and the entries keep them.
+///
+/// The relations are no published algorithm: what the weights below add up to is a graph whose
+/// strongest edges stay. A keyword's score is its share of the whole document's use of it, more for
+/// a long term and less for a phrase of many words: ln(length) × count ÷ (words × total).
+///
+/// Used by one thread, which is best not the main one. Relations are written as spec URLs that name
+/// the specification and no revision.
 class TAVRIN_CORE_EXPORT PDFXMLEnhancer : public PDFSpecification
 {
 public:
+    /// From an entry's label to its link, in a form of \ref map-format-links-into-the-pdf.
     using LabelLinkMapping = QHash<QString, QString>;
     using PDFEntryPtr = std::shared_ptr<PDFSpecification::Entry>;
     /// A named destination: name and place.
     using NamedPlace = std::pair<QString, HostPDFDestination>;
+    /// The texts of an entry by which it is compared with others.
     using TextBlock = std::function<QStringList(const EntryGraphNode &node)>;
 
     PDFXMLEnhancer();
@@ -65,6 +80,8 @@ public:
 
     /// An enhancer of class T for a map, which must have a DTD of its own, and a PDF. Nothing but
     /// the map's metadata is read yet. Throws what reading the map throws.
+    ///
+    /// `configure` sets the enhancer up before it reads anything.
     template <class T>
     static std::shared_ptr<T>
     matched(const QUrl &structureFile, const QUrl &pdfFile,
@@ -76,6 +93,8 @@ public:
     }
 
     /// Names the PDF that loadStructure() is to read. Asks for a PDF if the map asks for nothing.
+    ///
+    /// A file whose name does not end in ".pdf" is passed over without a word.
     void matchWith(const QUrl &pdfFile);
 
     // Pairing
@@ -89,18 +108,25 @@ public:
 
     /// A link whose name contains the key leads to an entry of the type. Keys are tried in their
     /// order as texts.
+    ///
+    /// "SLK", "CLK", "FLK" and "TLK" unless set.
     virtual const QMap<QString, SpecificationEntryType> &entryTypeMarkers() const
     {
         return m_entryTypeMarkers;
     }
+    /// Counts for the next pairing.
     virtual void setEntryTypeMarkers(const QMap<QString, SpecificationEntryType> &markers)
     {
         m_entryTypeMarkers = markers;
     }
     /// A link whose name contains one of these is no entry's.
+    ///
+    /// "PART", "TITLEPAGE", "LOFAT" and "TOC" unless set.
     virtual const QStringList &ignoreLinkMarkers() const { return m_ignoreLinkMarkers; }
     virtual void setIgnoreLinkMarkers(const QStringList &markers) { m_ignoreLinkMarkers = markers; }
     /// A link's name must contain every one of these.
+    ///
+    /// "ondry_ref" unless set; an empty list lets every name through.
     virtual const QStringList &requiredLinkMarkers() const { return m_requiredLinkMarkers; }
     virtual void setRequiredLinkMarkers(const QStringList &markers)
     {
@@ -113,17 +139,23 @@ public:
     virtual const TermCounts &totalFrequencies() const { return m_totalFrequencies; }
     virtual void setTotalFrequencies(const TermCounts &totals) { m_totalFrequencies = totals; }
     /// What an occurrence in the title of an ancestor or descendant counts for.
+    ///
+    /// 0.75 unless set.
     virtual double associatedEntryTitleWeight() const { return m_associatedEntryTitleWeight; }
     virtual void setAssociatedEntryTitleWeight(double weight)
     {
         m_associatedEntryTitleWeight = weight;
     }
+    /// Of an entry; 10 unless set.
     virtual int maxKeywordCount() const { return m_maxKeywordCount; }
     virtual void setMaxKeywordCount(int count) { m_maxKeywordCount = count; }
     /// Lemmas that are no keywords; the library's own list unless set.
     virtual const QStringList &stopWords();
+    /// In lower case, as lemmas; an empty list stops none.
     virtual void setStopWords(const QStringList &words) { m_stopWords = words; }
     /// Tokens that end a phrase.
+    ///
+    /// Line feed and tab unless set.
     virtual const QStringList &terminatorCharacters() const { return m_terminatorCharacters; }
     virtual void setTerminatorCharacters(const QStringList &characters)
     {
@@ -132,14 +164,18 @@ public:
 
     // Related entries
 
+    /// For entries with the same title; 1 unless set.
     virtual double relatedEntryTitleWeight() const { return m_relatedEntryTitleWeight; }
     virtual void setRelatedEntryTitleWeight(double weight) { m_relatedEntryTitleWeight = weight; }
+    /// For entries with a keyword in common; 0.25 unless set.
     virtual double relatedEntryKeywordWeight() const { return m_relatedEntryKeywordWeight; }
     virtual void setRelatedEntryKeywordWeight(double weight)
     {
         m_relatedEntryKeywordWeight = weight;
     }
     /// For an entry that this one's summary links to, and for one whose summary links to this.
+    ///
+    /// This is the first, 2 unless set; relatedEntryLinkingWeight() the second, 1.5 unless set.
     virtual double relatedEntryLinkedWeight() const { return m_relatedEntryLinkedWeight; }
     virtual void setRelatedEntryLinkedWeight(double weight) { m_relatedEntryLinkedWeight = weight; }
     virtual double relatedEntryLinkingWeight() const { return m_relatedEntryLinkingWeight; }
@@ -148,6 +184,8 @@ public:
         m_relatedEntryLinkingWeight = weight;
     }
     /// From a figure or table to the section that it stands in.
+    ///
+    /// 1.5 unless set.
     virtual double relatedEntryFigureAssociationWeight() const
     {
         return m_relatedEntryFigureAssociationWeight;
@@ -156,9 +194,12 @@ public:
     {
         m_relatedEntryFigureAssociationWeight = weight;
     }
+    /// Of an entry; 5 unless set.
     virtual int maxRelatedEntryCount() const { return m_maxRelatedEntryCount; }
     virtual void setMaxRelatedEntryCount(int count) { m_maxRelatedEntryCount = count; }
     /// The share of the weakest relations in the whole document that is dropped.
+    ///
+    /// 0.25 unless set. A number that isn't finite ends the process.
     virtual double relatedEntryPruningFraction() const { return m_relatedEntryPruningFraction; }
     virtual void setRelatedEntryPruningFraction(double fraction)
     {
@@ -175,11 +216,17 @@ public:
 
     /// Reads the map and, if a PDF is named, everything out of it. Throws what reading either
     /// throws, and EnhancerParseError.
+    ///
+    /// Without a PDF that is a line on standard error, and the map alone is read. A call from
+    /// within is passed over.
     void loadStructure() override;
     using PDFSpecification::loadStructure;
     void loadPDFStructure(const std::shared_ptr<HostPDFDocument> &document) override;
 
     /// Pairs, links, finds keywords and related entries.
+    ///
+    /// The end of loadPDFStructure(). Where the pairing finds nothing, entries keep the links of
+    /// the map; where it finds some, entries that it leaves out lose theirs.
     virtual void augmentSpecEntryMetadata(const std::shared_ptr<HostPDFDocument> &document);
 
     /// Entry label to link. Both the entries and the links of a kind are in document order, so the
@@ -189,27 +236,40 @@ public:
 
     /// The named destination of the type's kind on the page that is nearest to a height in page
     /// space. A page outside the document is a fault of the program and ends the process.
+    ///
+    /// Told by the library's own markers of types, whatever is set; absent if the page has none.
+    /// Pages count from 0.
     virtual std::optional<QString> closestInternalLink(double y, int page,
                                                        SpecificationEntryType type) const;
 
     /// All entries in the order of their places; one without a place stays behind the one before
     /// it in the table. Computed once.
     virtual const std::vector<PDFEntryPtr> &sortedEntries();
+    /// Sets the order in place of computing it.
     virtual void setSortedEntries(const std::vector<PDFEntryPtr> &entries);
 
+    /// Counts the terms of all entries anew and sets their keywords. Where no tagger can be made,
+    /// that is a line on standard error, and the counting ends there. Texts are read on the way, so
+    /// this is where the time goes.
     virtual void extractEntryKeywords();
     /// The counts of a section or chapter that is at the position in sortedEntries(): of its text
     /// and the titles around it, or where it has no text of the sections below it. Nothing for
     /// other entries and where the text can't be told.
     virtual std::optional<TermCounts> computeWordFrequencies(const PDFEntryPtr &entry,
                                                              std::size_t position);
+    /// The terms of any text: words and phrases in their dictionary forms. Throws
+    /// LinguisticTaggerError if no tagger can be made.
     virtual TermCounts computeWordFrequencies(const QString &text);
 
+    /// Makes the graph anew and sets the related entries of all entries. Takes time by the pairs of
+    /// entries that share something; extractEntryKeywords() comes before.
     virtual void computeRelatedEntries();
     /// Finds which entries' summaries link to which.
     virtual void computeLinkedEntries();
     /// Adds to the weight of the edges between entries that share one of the block's texts: more
     /// for a long text, less for one that many entries hold.
+    ///
+    /// Part of computeRelatedEntries(), which calls it for titles and keywords.
     virtual void addRelatedEntriesBySharedText(double weight, const TextBlock &textBlock);
 
     EntryClass entryClass() const override;

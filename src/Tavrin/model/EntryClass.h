@@ -11,9 +11,16 @@ class Specification;
 class SpecificationEntry;
 
 /// A class of entries as a value: what a specification makes its entries of.
+///
+/// A kind of specification that has entries of its own returns one from
+/// Specification::entryClass():
+///
+/// \snippet text-specification/TextSpecification.cpp entry class
 class EntryClass
 {
 public:
+    /// The class T, which derives from SpecificationEntry and can be made of a pointer to its
+    /// specification.
     template <class T>
     static EntryClass of()
     {
@@ -24,11 +31,13 @@ public:
                           });
     }
 
+    /// A new entry of that class, in no table yet. Never null.
     std::shared_ptr<SpecificationEntry> make(const std::shared_ptr<Specification> &owner) const
     {
         return m_make(owner);
     }
 
+    /// By which two values can be compared: equal for the same class.
     std::type_index type() const { return m_type; }
 
 private:

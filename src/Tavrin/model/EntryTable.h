@@ -20,11 +20,16 @@ class SpecificationEntry;
 ///
 /// Exact and case-insensitive look-ups cost the same however many entries there are. Iterators
 /// are forward iterators over entries, and end with the next change.
+///
+/// An entry stays under the label that it had when it was added, whatever label it is given later.
+/// Used by one thread at a time; Specification guards its own table.
 class TAVRIN_CORE_EXPORT EntryTable
 {
 public:
     using EntryPtr = std::shared_ptr<SpecificationEntry>;
 
+    /// Goes through the entries in the order in which they were added. An entry that it stands at
+    /// is never null.
     class const_iterator
     {
     public:
@@ -73,20 +78,30 @@ public:
 
     bool isEmpty() const { return m_positions.isEmpty(); }
     qsizetype size() const { return m_positions.size(); }
+    /// Whether there is an entry under exactly this label.
     bool contains(const QString &label) const { return m_positions.contains(label); }
 
+    /// At the entry that was added first.
     const_iterator begin() const;
+    /// Behind the last.
     const_iterator end() const;
 
     /// The entry under exactly this label, or null.
     EntryPtr value(const QString &label) const;
     /// The first-added entry whose label is equal in lower case, or null.
+    ///
+    /// An entry that is spelled exactly so has no precedence here: ask value() first.
     EntryPtr valueIgnoringCase(const QString &label) const;
 
     /// Adds an entry under its present label; false, and no change, if the label is taken.
+    ///
+    /// `entry` must not be null. Ends iterators.
     bool insert(const EntryPtr &entry);
     /// Removes what is stored under the label.
+    ///
+    /// Exactly as it is spelled; does nothing if there is none. Ends iterators.
     void remove(const QString &label);
+    /// Takes all entries out. Ends iterators.
     void clear();
 
 private:

@@ -9,6 +9,9 @@ namespace Tavrin
 {
 
 /// One place of a work that cites an entry.
+///
+/// Several places may cite one entry; each has its own. A reference whose label nobody knows is
+/// left unmarked.
 struct CoveredReference {
     /// Label or spec URL of the entry.
     QString label;
@@ -16,6 +19,8 @@ struct CoveredReference {
     QString reference;
 };
 
+/// What a body of work cites, in any order: what SpecificationManager::showSpecCoverage and detail
+/// views take.
 using ReferenceCoverage = std::vector<CoveredReference>;
 
 } // namespace Tavrin

@@ -27,21 +27,33 @@ class Specification;
 ///
 /// Reads the table once, when made; make a new one when the table changes. Any thread, as long
 /// as nobody changes the entries.
+///
+/// Kind words are English, and those that the user is shown in their own language. EntryFinder asks
+/// resolvers of all specifications in turn, and is what a host usually wants.
 class TAVRIN_CORE_EXPORT ReferenceResolver
 {
 public:
     using EntryPtr = std::shared_ptr<SpecificationEntry>;
 
+    /// One reference of a list, by itself.
     struct Reference {
         /// The reference by itself, under the kind word of its list: "Tables 2.2".
         QString written;
         /// What it means: one entry, the entries of a range in document order, or none.
+        ///
+        /// A range holds the entries of its ends' depth: "4.2.1-4.2.3" has no 4.2.2.1. It is
+        /// unknown if one of its ends is, if they differ in depth, or if the second stands before
+        /// the first.
         std::vector<EntryPtr> entries;
     };
 
+    /// Reads the table that is in memory; it loads none. Keeps the entries alive, and not the
+    /// specification.
     explicit ReferenceResolver(const Specification &specification);
 
     /// The references of a text in order. A text that is no reference at all gives an empty list.
+    ///
+    /// "Tables 2.1 and 2.2" gives two. Only the first thousand characters are read. Never throws.
     std::vector<Reference> resolve(const QString &text) const;
 
 private:

@@ -47,6 +47,8 @@ public:
 
     /// Null without windows.
     static ViewControllerFactory *installed();
+    /// Replaces the one that is installed; null takes it away. A host that makes views of its own
+    /// installs one before the first is asked for.
     static void install(std::unique_ptr<ViewControllerFactory> factory);
 };
 

@@ -14,11 +14,16 @@ namespace Tavrin
 ///
 /// Nothing is evicted: memory grows with the pages touched, and goes with the document. A page
 /// without text is asked again each time. Safe from any thread.
+///
+/// A specification binds one of these, and MapDrafter takes one. A page asked for by two threads at
+/// once may be read twice; both get the same.
 class TAVRIN_CORE_EXPORT CachingPDFDocument : public HostPDFDocument
 {
 public:
-    /// Opens a local file, or a document held in memory. Throws HostPDFError.
+    /// Opens a local file, or a document held in memory. Throws HostPDFError. Reads the structure
+    /// of the file, and no page.
     static std::shared_ptr<CachingPDFDocument> open(const QUrl &url, const QString &password = {});
+    /// The same for a document in memory, whose bytes are kept as long as it is open.
     static std::shared_ptr<CachingPDFDocument> open(const QByteArray &data,
                                                     const QString &password = {});
 
@@ -28,6 +33,8 @@ public:
     std::optional<QString> textFor(const HostPDFPage &page) const override;
 
     /// The lines of a page in the order of LineFinder, found once.
+    ///
+    /// Empty for a page of another document.
     std::vector<TextRange> linesFor(const HostPDFPage &page) const;
 
 private:

@@ -18,6 +18,10 @@ class HostPDFDocument;
 
 /// One item of a document's outline: a light handle into a table that all items share, so an
 /// outline of any depth is copied and dropped in constant stack. Immutable; any thread.
+///
+/// The places that it leads to are absent once the document is gone; labels stay. Most documents
+/// have GoTo actions, so that a host which wants the place of an item asks for both, or
+/// PDFSpecification::destination().
 class TAVRIN_CORE_EXPORT HostPDFOutline
 {
 public:
@@ -32,7 +36,9 @@ public:
     /// Where its GoTo action leads; most producers write this in place of "Dest".
     std::optional<HostPDFDestination> actionDestination() const;
 
+    /// Of those right below this item.
     qsizetype numberOfChildren() const;
+    /// The child at a position from 0; absent beyond the count.
     std::optional<HostPDFOutline> childAtIndex(qsizetype index) const;
 
     /// Same item of the same document.

@@ -11,7 +11,8 @@ namespace Tavrin
 
 class HostPDFPage;
 
-/// Cuts a page's text into visual lines for the layout code.
+/// Cuts a page's text into visual lines for the layout code. HostPDFPage::visualLines gives the
+/// lines in reading order.
 class TAVRIN_CORE_EXPORT LineFinder
 {
 public:

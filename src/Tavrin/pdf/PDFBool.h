@@ -7,9 +7,12 @@ namespace Tavrin
 {
 
 /// A boolean of the file.
+///
+/// Immutable; equal if the values are.
 class TAVRIN_CORE_EXPORT PDFBool : public PDFObject
 {
 public:
+    /// Of no file; PDFObjectFactory makes those of one.
     explicit PDFBool(bool value);
 
     bool value() const { return m_value; }

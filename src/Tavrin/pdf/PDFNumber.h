@@ -6,10 +6,11 @@
 namespace Tavrin
 {
 
-/// An integer or a real of the file; both are read as a double.
+/// An integer or a real of the file; both are read as a double. Immutable; equal if the values are.
 class TAVRIN_CORE_EXPORT PDFNumber : public PDFObject
 {
 public:
+    /// Of no file; PDFObjectFactory makes those of one.
     explicit PDFNumber(double value);
 
     double value() const { return m_value; }

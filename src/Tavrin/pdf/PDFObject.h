@@ -14,6 +14,10 @@ namespace Tavrin
 
 /// A low-level array or dictionary together with the parser that reads it. Keeps the document
 /// open, so an object tree can outlive whoever made it.
+///
+/// The parser is made to share the document's life:
+///
+///     const std::shared_ptr<const PDFObjectParser> parser(document, &document->objects());
 struct PDFLowLevelObject {
     PDFObjectHandle handle;
     std::shared_ptr<const PDFObjectParser> parser;
@@ -26,12 +30,16 @@ struct PDFLowLevelObject {
 /// Objects are wrapped when they are first asked for: a huge file costs what is touched of it,
 /// and a cycle in the file costs nothing until somebody walks it. A tree is used by one thread
 /// at a time.
+///
+/// What a host meets is one of PDFArray, PDFBool, PDFDictionary, PDFNumber and PDFString, held by
+/// std::shared_ptr. Hosts need these for what the library does not read of a file.
 class TAVRIN_CORE_EXPORT PDFObject
 {
 public:
     /// What the object was made from: the decoded value, or the low-level handle.
     using Internal = std::variant<std::monostate, bool, double, QString, PDFLowLevelObject>;
 
+    /// PDFObjectFactory makes the right class for an object of a file.
     explicit PDFObject(Internal internal = {});
     virtual ~PDFObject();
     PDFObject(const PDFObject &) = delete;

@@ -8,8 +8,9 @@
 namespace Tavrin
 {
 
-/// A printed heading.
+/// A printed heading. Found by the title near the entry's place.
 struct SectionHeading {
+    /// From 0.
     int page = -1;
     /// In the text of the page.
     TextRange range;

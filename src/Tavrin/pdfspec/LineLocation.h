@@ -9,7 +9,8 @@
 namespace Tavrin
 {
 
-/// Where a line of an entry's text stands in the PDF.
+/// Where a line of an entry's text stands in the PDF. The n-th of an entry's LineLocations is that
+/// of the n-th line of its text.
 struct LineLocation {
     /// In the entry's text, without the line feed.
     TextRange range;
@@ -21,6 +22,7 @@ struct LineLocation {
     friend bool operator==(const LineLocation &, const LineLocation &) = default;
 };
 
+/// In the order of the text, which is that of reading.
 using LineLocations = std::vector<LineLocation>;
 
 } // namespace Tavrin

@@ -8,7 +8,8 @@
 namespace Tavrin
 {
 
-/// A link of a page to a named destination.
+/// A link of a page to a named destination. Made by PDFSpecification::readLinks. What it stands for
+/// in the document, PDFSpecification::linkDestinationMapping tells.
 struct LinkRecord {
     /// The destination's name.
     QString label;

@@ -4,7 +4,12 @@
 namespace Tavrin
 {
 
-/// Which of a PDF's ways to write a place are read.
+/// Which of a PDF's ways to write a place are read. A host that ships maps of its own documents
+/// chooses what reads them right; one whose users bring documents of all producers chooses Common,
+/// before it registers maps:
+///
+///     PDFSpecification::registerType(PDFReadingPolicy::Common);
+///     manager.loadSpecInformation(maps);
 enum class PDFReadingPolicy {
     /// Destinations of mode XYZ with both coordinates, in the name tree only as a dictionary with
     /// "D", on links and outline items only as "Dest". Maps for such documents know what they get.

@@ -50,8 +50,10 @@ public:
     class TAVRIN_CORE_EXPORT ParseError : public std::runtime_error
     {
     public:
+        /// What could not be read.
         enum class Kind { StructureReadError, InvalidPDF, PDFOutlineNotFound, OutlineError };
 
+        /// what() is the message, or says so in general.
         explicit ParseError(Kind kind, const QString &message = {});
 
         Kind kind;
@@ -59,19 +61,24 @@ public:
         QString message;
     };
 
+    /// Rectangles in page space by page index, from 0.
     using PageRects = std::map<int, Rect>;
 
+    /// For Specification::make: a specification is never made on its own.
     PDFSpecification();
     ~PDFSpecification() override;
 
     /// Which of the file's ways to write a place are read; Strict unless set. Takes effect with
     /// the next file that is bound, so set it before.
     PDFReadingPolicy readingPolicy() const { return m_readingPolicy; }
+    /// For a single object; registerType() sets it for all that are made of maps.
     void setReadingPolicy(PDFReadingPolicy policy) { m_readingPolicy = policy; }
     /// Has the maps that need one PDF, when they are registered from now on, read it by a policy.
     static void registerType(PDFReadingPolicy policy);
 
     /// The open document; null while nothing is bound.
+    ///
+    /// Copy the pointer before you read on another thread: binding replaces it.
     const std::shared_ptr<CachingPDFDocument> &document() const { return m_cachingDocument; }
     /// The file that satisfied the requirement.
     const std::optional<QUrl> &pdfURL() const { return m_pdfURL; }
@@ -122,9 +129,13 @@ public:
     /// The page dictionaries below a node of the page tree, in order. Nodes that the file repeats
     /// or loops to are read once.
     std::vector<PDFDictionaryPtr> readPageTree(const PDFDictionaryPtr &node) const;
+    /// The named destinations of a name tree (ISO 32000-1, 7.9.6), by what the reading policy
+    /// reads.
     QHash<QString, HostPDFDestination>
     readDestinationNameTree(const PDFDictionary &tree,
                             const std::vector<PDFDictionaryPtr> &pageDicts) const;
+    /// The place that a destination array names (ISO 32000-1, 12.3.2.2), by what the reading policy
+    /// reads; absent for others.
     std::optional<HostPDFDestination>
     destinationFromPDFRepresentation(const PDFArray &array,
                                      const std::vector<PDFDictionaryPtr> &pageDicts) const;
@@ -132,7 +143,9 @@ public:
     /// Outline items by label, read once; of two with one label the later in document order.
     /// Empty while no document is bound.
     QMap<QString, HostPDFOutline> documentOutline() const;
+    /// Sets them in place of reading; they stay when another document is bound.
     void setDocumentOutline(const QMap<QString, HostPDFOutline> &outline);
+    /// The outline items of a document that lead somewhere, by label.
     QMap<QString, HostPDFOutline> parseOutline(const HostPDFDocument &document) const;
     /// The items with a destination, depth first, the given one included.
     std::vector<HostPDFOutline> recursivelyCollectChildren(const HostPDFOutline &outline) const;
@@ -144,8 +157,12 @@ public:
     /// standard error.
     std::optional<HostPDFDestination> destinationForLink(const QString &link,
                                                          PageRects *pageRects = nullptr) const;
+    /// The link to an outline item, as a map has it: "outline:LABEL".
     QString internalLink(const HostPDFOutline &outline) const;
+    /// The link to a place: "destination:PAGE,X,Y". A place in another document counts as on the
+    /// first page.
     QString internalLink(const HostPDFDestination &destination) const;
+    /// The link to an area: "rects:…".
     QString internalLink(const PageRects &rectangles) const;
 
     /// The place of the entry with this label; failing that, the text is tried as a link.
@@ -227,6 +244,7 @@ public:
     /// The entry behind or before this one in the order of the pages; null at the ends, and for
     /// an entry without a place, which is told on standard error.
     std::shared_ptr<Entry> nextEntry(const SpecificationEntry &entry) const;
+    /// As nextEntry(), towards the beginning.
     std::shared_ptr<Entry> previousEntry(const SpecificationEntry &entry) const;
     /// The first entry that begins on the page at this height, to within 1.
     std::shared_ptr<Entry> entry(const HostPDFDestination &place) const;
@@ -283,6 +301,7 @@ protected:
     /// Gives every entry its place and sorts them by page.
     void loadPDFEntryMetadata(const HostPDFDocument &document);
 
+    /// For a subclass that knows its file before it is bound.
     void setPDFURL(const std::optional<QUrl> &url) { m_pdfURL = url; }
     /// Sets the printed area from a requirement's `read-info`: four numbers parted by commas. What
     /// is anything else says so on standard error.

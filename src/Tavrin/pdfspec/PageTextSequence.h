@@ -22,7 +22,7 @@ struct RangeMapping {
 };
 
 /// The body of a page: its lines without running heads, figures and tables, in reading order, a
-/// line feed between them. Immutable once made.
+/// line feed between them. Immutable once made. PDFSpecification::filteredPage makes it.
 struct FilteredPage {
     StyledText text;
     /// In ascending order of location.

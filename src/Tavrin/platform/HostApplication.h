@@ -15,7 +15,8 @@ namespace Tavrin
 /// time; absent if the platform names none. It need not exist. Any thread.
 TAVRIN_CORE_EXPORT std::optional<QString> userDataDirectory();
 
-/// Names this library among all that keep data there.
+/// Names this library among all that keep data there. The directory of imported files lies below
+/// one of this name. Any thread.
 TAVRIN_CORE_EXPORT QString libraryIdentifier();
 
 /// Names the application among the hosts of this library: what setHostIdentifier was given, else
@@ -26,6 +27,8 @@ TAVRIN_CORE_EXPORT QString hostIdentifier();
 /// For hosts that share their files with another, or want to be known under a name that they
 /// don't show. An empty text goes back to the application's own name. Call it before files are
 /// asked for. Any thread.
+///
+/// What was imported under another name stays there and is not found under this one.
 TAVRIN_CORE_EXPORT void setHostIdentifier(const QString &identifier);
 
 } // namespace Tavrin

@@ -22,6 +22,7 @@ enum class TagScheme {
     LexicalClass,
 };
 
+/// What a token is. The first four answer TagScheme::TokenType, the others TagScheme::LexicalClass.
 enum class LinguisticTag : quint8 {
     Word,
     Punctuation,
@@ -48,6 +49,7 @@ enum class LinguisticTag : quint8 {
 class TAVRIN_CORE_EXPORT LinguisticTaggerError : public std::runtime_error
 {
 public:
+    /// `message` says what is missing: in most cases a Debian package.
     explicit LinguisticTaggerError(const QString &message);
 
     QString message;
@@ -59,6 +61,14 @@ public:
 /// as what they know of the language is shared and never changes. Ranges are in UTF-16 units of
 /// the text. The language is judged by the text itself: what isn't English has every word for a
 /// noun, and its lowercase for the lemma.
+///
+///     const auto tagger = LinguisticTagger::make();
+///     tagger->setString(text);
+///     tagger->enumerateTags({0, text.size()}, TagScheme::LexicalClass,
+///                           [&](auto tag, TextRange token, TextRange, bool &) {
+///                               if (tag == LinguisticTag::Noun)
+///                                   nouns += text.mid(token.location, token.length);
+///                           });
 class TAVRIN_CORE_EXPORT LinguisticTagger
 {
 public:
@@ -77,6 +87,7 @@ public:
     /// Throws LinguisticTaggerError; never returns null.
     static std::unique_ptr<LinguisticTagger> make();
 
+    /// The text that all else is asked of from now on.
     virtual void setString(const QString &text) = 0;
 
     /// Calls back for every token that begins inside the range, in order: blanks and punctuation

@@ -16,6 +16,12 @@ enum class PDFBox { Media, Crop };
 /// rectangles and everything a host sees are in it. *Upright space* is the page as a reader holds
 /// it: the crop box after /Rotate, its lower left corner at (0, 0), y up. Lines of text are
 /// found there. Both count in points.
+///
+/// Destinations, selections and rectangles that a host gets from this library can be handed back as
+/// they are. To place one in a view of its own, a host turns it upright and then y downward:
+///
+///     const Rect upright = page.geometry().toUpright(bounds);
+///     const double top = page.geometry().uprightSize().height - upright.maxY();
 struct TAVRIN_CORE_EXPORT PageGeometry {
     Rect mediaBox;
     /// Within the media box.
@@ -23,14 +29,19 @@ struct TAVRIN_CORE_EXPORT PageGeometry {
     /// Clockwise turn for display: 0, 90, 180 or 270.
     int rotation = 0;
 
+    /// One of the two, in page space.
     const Rect &box(PDFBox box) const { return box == PDFBox::Media ? mediaBox : cropBox; }
 
     /// Width and height of the crop box as displayed.
     Size uprightSize() const;
 
+    /// From upright to page space.
     Point toPage(Point upright) const;
+    /// From page to upright space, the inverse of toPage().
     Point toUpright(Point page) const;
+    /// The same for a rectangle, whose sides stay sides. A null one stays null.
     Rect toPage(const Rect &upright) const;
+    /// The same for a rectangle, whose sides stay sides. A null one stays null.
     Rect toUpright(const Rect &page) const;
 };
 

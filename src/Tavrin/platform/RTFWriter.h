@@ -25,12 +25,16 @@ struct TextAttachment;
 class TAVRIN_CORE_EXPORT RTFWriter
 {
 public:
+    /// The device is open for writing and outlives the writer.
     explicit RTFWriter(QIODevice &device);
 
-    /// Writes the range of the text; false if the device takes no more, and it says why then.
+    /// Writes the range of the text; false if the device takes no more, and it says why then. A
+    /// document needs no more than this call. The range is cut to the text.
     bool write(const StyledText &text, TextRange range);
 
     /// The same as one array of bytes.
+    ///
+    /// Such as for the clipboard, as "text/rtf".
     static QByteArray document(const StyledText &text, TextRange range);
 
 private:

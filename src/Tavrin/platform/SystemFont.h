@@ -13,8 +13,9 @@ inline TextFont systemFont(double pointSize, quint32 traits = 0)
     return {QString(), pointSize, traits};
 }
 
-/// The size of running text, and that of summaries and captions, in points.
+/// The size of running text, in points.
 inline constexpr double systemFontSize = 13;
+/// The size of summaries and captions, in points.
 inline constexpr double smallFontSize = 11;
 
 } // namespace Tavrin

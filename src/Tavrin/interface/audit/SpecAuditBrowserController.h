@@ -37,15 +37,25 @@ struct BrowserTable;
 /// the audit up.
 ///
 /// Entries are shown by the manager's detailViewControllerDisplayBlock. Main thread.
+///
+/// The host puts view() into a window of its own and keeps the controller as long as that is open:
+///
+/// \snippet citing/main.cpp audit
+///
+/// For an audit without a window, see PDFSpecAuditor.
 class TAVRIN_WIDGETS_EXPORT SpecAuditBrowserController : public ViewController
 {
     Q_OBJECT
 
 public:
+    /// A list for each label, in the order of the labels; all of one length.
     using Components = std::vector<QStringList>;
 
     /// The components are values of extra columns for each label, in the order of the labels, and
     /// the headings those of the extra columns.
+    ///
+    /// Labels and spec URLs are understood; one that nobody has makes a row without entry. Nothing
+    /// is read before the view appears. Components without headings get columns with empty ones.
     explicit SpecAuditBrowserController(
         const QStringList &labels, std::shared_ptr<PDFSpecification> spec,
         const QStringList &customHeadings = {}, const Components &customComponents = {},
@@ -59,12 +69,18 @@ public:
 
     /// Null before the view is loaded and after it is gone.
     QTableView *tableView() const;
+    /// What the audit came to, in a line; null as tableView() is.
     QLabel *summaryLabel() const;
+    /// What is typed here filters the rows; null as tableView() is.
     QLineEdit *searchField() const;
+    /// How many rows are left; hidden while nothing is searched for. Null as tableView() is.
     QLabel *searchResultsLabel() const;
+    /// The library's own.
     BrowserArrayController *arrayController() const { return m_arrayController; }
 
     /// The rows of the audit, in its order; none before it is done.
+    ///
+    /// For tests; a host that wants the figures takes PDFSpecAuditor.
     const std::vector<BrowserSpecReferenceItem> &entryDict() const;
     /// Of the columns: "column0", "column1" and so on.
     const QStringList &columnIdentifiers() const { return m_columnIdentifiers; }
@@ -73,21 +89,32 @@ public:
     bool isAuditing() const { return m_audit != nullptr; }
 
     /// Shows the rows that hold all words of the search field, in any case, with any diacritics.
+    ///
+    /// Called by itself as the user types; only once the view is loaded.
     void searchFieldValueChanged();
     /// Shows the detail view of the clicked row's entry.
+    ///
+    /// By the manager's block, with a prompt where the entry's document is missing. Without a
+    /// block, or if no specification has the label, that is logged and nothing happens.
     void tableViewRowDoubleClicked();
     /// Puts the selected rows on the clipboard, or the clicked one if none is selected: values in
-    /// double quotes, parted by commas, a line each. Nothing is escaped.
+    /// double quotes, parted by commas, a line each. Nothing is escaped. Does nothing where there
+    /// is neither.
     void copy();
     /// Puts the clicked value on the clipboard, as it is.
     void copyCell();
     /// Gives the item of copy() its title. Whether the item can be chosen now.
     bool validateMenuItem(QAction &item) const;
     /// Asks for a file, and writes a report of the labels into it.
+    ///
+    /// The sheet that asks is over the view's window, so it has to be on the screen. Does nothing
+    /// without a specification.
     void exportAudit();
 
 Q_SIGNALS:
     /// The rows of an audit are shown.
+    ///
+    /// Also after one that failed, which a sheet has told of.
     void audited();
 
 protected:

@@ -19,6 +19,11 @@ namespace Tavrin
 /// to change to another. Where a document is missing it shows the prompt to import, and changes by
 /// itself when the file arrives. In a Sheet it ends the sheet. Held by std::shared_ptr; main
 /// thread.
+///
+/// SpecEntryTokenFieldDelegate shows one for its field. A host that cites in another way does so
+/// itself:
+///
+/// \snippet citing/main.cpp choose
 class TAVRIN_WIDGETS_EXPORT SpecEntrySelectionViewController
     : public ViewController,
       public SpecDetailViewControllerDelegate
@@ -32,8 +37,11 @@ public:
     using SpecificationPtr = std::shared_ptr<Specification>;
 
     /// What it ends with.
+    ///
+    /// As a sheet's result and as the delegate is told.
     enum Result { Cancelled = 0, Selected = 1 };
 
+    /// `selectedEntry` is marked when the view comes up; null begins with none.
     explicit SpecEntrySelectionViewController(
         const EntryPtr &selectedEntry = nullptr,
         SpecificationManager &manager = SpecificationManager::shared());
@@ -41,6 +49,7 @@ public:
 
     /// Null for none.
     const EntryPtr &selectedEntry() const { return m_selectedEntry; }
+    /// Changes what is chosen, not what is shown.
     void setSelectedEntry(const EntryPtr &entry);
     /// Those that have all their files, in the order of the manager; empty before the view is
     /// loaded.
@@ -51,6 +60,8 @@ public:
     /// The one that is shown, or whose document is missing; null for none.
     const SpecificationPtr &selectedSpecification() const { return m_selectedSpecification; }
     /// Shows it. The selected entry stays if it is one of its own.
+    ///
+    /// Else no entry is selected any more. Null does nothing.
     void setSelectedSpecification(const SpecificationPtr &specification);
     /// Null while there is the prompt, or nothing.
     const std::shared_ptr<SpecDetailViewController> &currentDetailController() const
@@ -68,15 +79,21 @@ public:
         m_delegate = delegate;
     }
 
-    /// Whether there is nothing to choose from, so that there are no buttons.
+    /// Whether there is nothing to choose from, so that there are no buttons. True while there is
+    /// the prompt to import in place of a document.
     bool controlsHidden() const { return m_controlsHidden; }
+    /// Whether there is an entry to end with.
     bool selectButtonEnabled() const { return m_selectedEntry && m_currentDetailController; }
     /// "Selected entry: Section 4.2.1 Scope", in the user's language.
     QString selectedEntryText() const;
 
+    /// Ends with the selected entry, as the button does: tells the delegate, once, and ends the
+    /// Sheet that the view is in, if it is in one.
     void selectButtonClicked() { end(Selected); }
+    /// Ends with none, in the same way.
     void cancelButtonClicked() { end(Cancelled); }
 
+    /// The reader chose in the document.
     void specDetailViewController(SpecDetailViewController &controller,
                                   const EntryPtr &selected) override;
 

@@ -8,7 +8,8 @@ namespace Tavrin
 
 class SpecEntrySelectionViewController;
 
-/// Hears how choosing an entry ended, before the sheet goes.
+/// Hears how choosing an entry ended, before the sheet goes. Told once. Escape and the window's
+/// frame end it, too, as cancelled.
 class TAVRIN_WIDGETS_EXPORT SpecEntrySelectionViewControllerDelegate
 {
 public:

@@ -56,9 +56,9 @@ void PageField::showPage()
     m_count->setText(
         page < 0 ? QString()
                  : localized("of %1", "Behind the page number: the number of pages").arg(total));
-    m_number->setToolTip(
-        localized("Go to page (%1)", "Tool tip with a shortcut")
-            .arg(QKeySequence(QKeyCombination(Qt::CTRL, Qt::Key_L)).toString(QKeySequence::NativeText)));
+    m_number->setToolTip(localized("Go to page (%1)", "Tool tip with a shortcut")
+                             .arg(QKeySequence(QKeyCombination(Qt::CTRL, Qt::Key_L))
+                                      .toString(QKeySequence::NativeText)));
     m_number->setAccessibleDescription(m_count->text());
     const auto digits = std::max<qsizetype>(4, total.size());
     const int width = m_number->fontMetrics().horizontalAdvance(QString(digits, u'0'));

@@ -32,6 +32,10 @@ class SpecPDFViewer;
 /// are marked by a computation in the background, which a sheet over the window tells of. When the
 /// file of the specification is replaced or forgotten while it is shown, the view follows: it
 /// shows the specification that took its place, at the same entry. Main thread.
+///
+/// Most hosts get one from the manager. Opening takes little more than drawing the page: pages,
+/// texts and the outline of an entry come from other threads a moment later. Links of the document
+/// are opened only if they are http, https or mailto; the view says so of others.
 class TAVRIN_WIDGETS_EXPORT SpecPDFViewController : public SpecDetailViewController,
                                                     public SpecPDFViewerDelegate,
                                                     public SpecPDFSourceListDelegate
@@ -40,11 +44,17 @@ class TAVRIN_WIDGETS_EXPORT SpecPDFViewController : public SpecDetailViewControl
 
 public:
     /// One whose sidebar has an outline and a search; shows an entry, or a specification.
+    ///
+    /// The view is made with the first view(). An entry without a place shows the document from its
+    /// start, with a notice.
     static std::shared_ptr<SpecPDFViewController> make(const EntryPtr &entry);
+    /// The same for a specification with no entry current.
     static std::shared_ptr<SpecPDFViewController> make(const SpecificationPtr &specification);
 
     /// Without children. A sidebar and a viewer, in this order, are to be added before the view is
     /// loaded. Held by std::shared_ptr.
+    ///
+    /// With other than two children the view stays without document, which is logged.
     explicit SpecPDFViewController(QObject *parent = nullptr);
     ~SpecPDFViewController() override;
 
@@ -72,6 +82,8 @@ public:
     EntryPtr entry() const override { return m_entry; }
     /// Takes over the entry's specification, and goes to the entry's place in the document. An
     /// entry of a specification of another kind isn't kept.
+    ///
+    /// Null leaves the document where it is. Nothing is outlined: selectEntry() does that.
     void setEntry(const EntryPtr &entry) override;
     SpecificationPtr specification() const override { return m_specification; }
     /// The current entry goes unless it belongs to this specification.
@@ -80,7 +92,9 @@ public:
     void setAllowsEntrySelection(bool allowed) override;
     std::shared_ptr<SpecDetailViewControllerDelegate> delegate() const override;
     void setDelegate(const std::weak_ptr<SpecDetailViewControllerDelegate> &delegate) override;
-    /// Does nothing but log while selecting entries isn't allowed.
+    /// Does nothing but log while selecting entries isn't allowed. The pages of the entry are read
+    /// now if the view is loaded, which may take as long as an extraction; before that they are
+    /// read in the background.
     void selectEntry(const EntryPtr &entry) override;
     bool showsReferenceCoverage() const override { return m_showsReferenceCoverage; }
     void setShowsReferenceCoverage(bool shows) override { m_showsReferenceCoverage = shows; }
@@ -91,10 +105,16 @@ public:
     void setReferenceCoverage(const std::optional<ReferenceCoverage> &coverage) override;
 
     /// Marks the references now, as it happens when the view appears. Returns at once.
+    ///
+    /// What was begun before is given up. Without references the sheet says so.
     void highlightReferenceCoverage();
 
+    /// Outlines the entry at the place and tells the delegate, if choosing is allowed.
     void viewerClicked(SpecPDFViewer &viewer, const HostPDFDestination &place) override;
+    /// The same for the lines that are selected. The delegate is told of them even if choosing
+    /// isn't allowed.
     void viewerSelected(SpecPDFViewer &viewer, const HostPDFSelection &selection) override;
+    /// Goes to the place, and outlines the entry that begins there, if choosing is allowed.
     void sourceListChose(const HostPDFDestination &destination) override;
 
 protected:

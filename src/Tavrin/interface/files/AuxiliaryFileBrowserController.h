@@ -31,11 +31,19 @@ class SegmentedControl;
 ///
 /// It follows the manager's list of files. Files come by a panel or by being dropped on the view;
 /// an import goes on after the call that begins it has returned. Main thread.
+///
+/// Most hosts get one from SpecificationManager::showAuxiliaryFileBrowser and show it in a window
+/// or a Popover:
+///
+/// \snippet minimal/main.cpp display
+///
+/// A row is opened by the manager's detailViewControllerDisplayBlock.
 class TAVRIN_WIDGETS_EXPORT AuxiliaryFileBrowserController : public ViewController
 {
     Q_OBJECT
 
 public:
+    /// One with the library's own instruction and no accessory view.
     static std::shared_ptr<AuxiliaryFileBrowserController>
     standard(SpecificationManager &manager = SpecificationManager::shared());
 
@@ -48,6 +56,8 @@ public:
 
     /// The extensions that the panel offers and a drop is taken with, exactly as files have them.
     /// While there are none, those that some registered specification asks for.
+    ///
+    /// Without the dot: "pdf".
     const QStringList &allowedFileTypes() const { return m_allowedFileTypes; }
     void setAllowedFileTypes(const QStringList &types) { m_allowedFileTypes = types; }
 
@@ -56,7 +66,7 @@ public:
     /// Replaces and deletes the former one.
     void setAccessoryView(std::unique_ptr<QWidget> view);
 
-    /// Above the table, in the user's language.
+    /// Above the table, in the user's language. Empty hides it.
     const QString &instructionText() const { return m_instructionText; }
     void setInstructionText(const QString &text);
 
@@ -66,14 +76,25 @@ public:
     AuxiliaryFileArrayController *arrayController() const { return m_arrayController.get(); }
 
     /// 0 asks for a file to import; any other removes the files of the selected rows.
+    ///
+    /// The files of the rows are unregistered, and their copies deleted, without asking. Nothing is
+    /// asked for while the view is in no window on the screen.
     void segmentedControlButtonPressed(int segment);
+    /// Shows the document of a row. A row without one leads to the prompt to import; one of a file
+    /// that nothing recognised is logged.
     void viewButtonPressed(int row) { openRow(row); }
+    /// As viewButtonPressed().
     void tableViewRowDoubleClicked(int row) { openRow(row); }
+    /// Whether the row can be selected, so that its files can be removed.
     bool tableViewShouldSelectRow(int row) const;
 
     /// Imports files in turns of the event loop to come, one after the other, behind a sheet if the
     /// view has a window. Failures are told when all were tried.
+    ///
+    /// Returns at once; importFinished() follows. What kinds of files they are is not looked at
+    /// before they are tried.
     void importFiles(const std::vector<QUrl> &urls);
+    /// Whether there are files that have not been tried.
     bool isImporting() const;
 
 Q_SIGNALS:

@@ -26,6 +26,9 @@ class OutlineModel;
 /// The item that holds the current entry is selected, and the delegate hears of that as of an item
 /// that the reader selects. The selection then follows the place where the reader is; of that the
 /// delegate hears nothing. Main thread.
+///
+/// SpecPDFViewController::make puts one into its sidebar. A document without an outline leaves the
+/// tree empty and hides the field.
 class TAVRIN_WIDGETS_EXPORT SpecPDFOutlineViewController : public ViewController,
                                                            public SpecPDFSourceList
 {
@@ -36,10 +39,10 @@ public:
     ~SpecPDFOutlineViewController() override;
 
     std::shared_ptr<PDFSpecification::Entry> entry() const override { return m_entry; }
-    /// Reads the outline again and selects the entry's place.
+    /// Reads the outline again and selects the entry's place. What was expanded is forgotten.
     void setEntry(const std::shared_ptr<PDFSpecification::Entry> &entry) override;
     std::shared_ptr<PDFSpecification> specification() const override { return m_specification; }
-    /// Reads the outline again.
+    /// Reads the outline again. One whose document isn't there shows nothing.
     void setSpecification(const std::shared_ptr<PDFSpecification> &specification) override;
     std::shared_ptr<SpecPDFSourceListDelegate> delegate() const override
     {

@@ -29,6 +29,10 @@ class SpecPDFSearchResult;
 /// Searches run in the background, one after the other, so that the latest text has the last word.
 /// Descriptions follow the rows: those that can be seen are computed in the background, in the
 /// order in which they came into sight. The text of the field is remembered. Main thread.
+///
+/// SpecPDFViewController::make puts one into its sidebar. The text that was remembered is not
+/// searched for by itself, but when Return is pressed. A search holds the specification's reading
+/// lock, so that binding a file waits for it.
 class TAVRIN_WIDGETS_EXPORT SpecPDFSearchViewController : public ViewController,
                                                           public SpecPDFSourceList
 {
@@ -40,6 +44,8 @@ public:
     using EntryPtr = std::shared_ptr<PDFSpecification::Entry>;
 
     /// Where the text of the field is kept between runs.
+    ///
+    /// In QSettings(), under the application's name: set that before there are views.
     static inline const QString searchFieldTextKey =
         QStringLiteral("Tavrin.DetailView.SearchFieldText");
 
@@ -47,6 +53,7 @@ public:
     ~SpecPDFSearchViewController() override;
 
     std::shared_ptr<PDFSpecification::Entry> entry() const override { return m_entry; }
+    /// Keeps it; the list stays.
     void setEntry(const std::shared_ptr<PDFSpecification::Entry> &entry) override
     {
         m_entry = entry;
@@ -67,7 +74,9 @@ public:
     }
 
     // Parts of the view; null before it is loaded and after it went.
+    /// Where the user types.
     QLineEdit *searchField() const;
+    /// The list of what was found.
     QListView *searchTableView() const;
 
     /// What the list shows, from top to bottom.
@@ -76,6 +85,7 @@ public:
     bool isLoadingEntries() const;
     /// The label shows only where a text found nothing.
     bool noResultsLabelHidden() const { return m_noResultsLabelHidden; }
+    /// The list gives way to the label.
     bool tableViewHidden() const { return !m_noResultsLabelHidden; }
 
 Q_SIGNALS:

@@ -6,12 +6,12 @@
 namespace Tavrin
 {
 
-/// Hears of the links of a summary.
+/// Hears of the links of a summary. SpecEntrySummaryViewController does what is usual. Main thread.
 class SpecEntrySummaryCellDelegate
 {
 public:
     virtual ~SpecEntrySummaryCellDelegate() = default;
-    /// A label, a spec URL or another URL.
+    /// A label, a spec URL or another URL. It comes out of a document: nobody has looked at it yet.
     virtual void summaryCellClickedLink(const QString &destination) = 0;
 };
 

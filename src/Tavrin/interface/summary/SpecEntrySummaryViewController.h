@@ -28,6 +28,10 @@ class TableScrollView;
 /// computed, the view begins with the rows that are known and fills in when a background task is
 /// done. The entry lives as long as the controller; its specification may go at any time. Main
 /// thread.
+///
+/// SpecificationManager::summaryLookup makes one. A host that makes its own adds rows by
+/// setCustomDisplayItems() and shows it in a Popover or in a window. What rows there are is the
+/// entry's: SpecificationEntry::displayItems.
 class TAVRIN_WIDGETS_EXPORT SpecEntrySummaryViewController : public ViewController,
                                                              public TableView::Source,
                                                              public SpecEntrySummaryCellDelegate
@@ -47,9 +51,11 @@ public:
 
     /// Rows behind the entry's own.
     const std::vector<EntryDisplayItem> &customDisplayItems() const { return m_customDisplayItems; }
+    /// Shown at once.
     void setCustomDisplayItems(const std::vector<EntryDisplayItem> &items);
 
-    /// Whether rows are still to come.
+    /// Whether rows are still to come. False before the view is loaded; loaded() tells when it
+    /// becomes false.
     bool isLoading() const;
 
     // The table's rows, read from the entry each time. Before there is a view, that may take as
@@ -58,7 +64,9 @@ public:
     QWidget *tableViewCell(const TableView::Column *column, int row) override;
     int tableViewRowHeight(int row) override;
 
+    /// The table; null before the view is loaded and after it went.
     TableView *tableView() const { return m_tableView; }
+    /// What is shown where there are no rows; null as the table is.
     QWidget *noContentView() const { return m_noContentView; }
 
     /// Displays what links lead to from now on.
@@ -66,13 +74,20 @@ public:
 
     /// Has the manager display a label's detail view, if it leads to an entry, else opens it
     /// as a URL.
+    ///
+    /// The entry's own specification is asked first. A URL is handed to the desktop whatever its
+    /// scheme; what is neither is logged.
     void summaryCellClickedLink(const QString &destination) override;
 
 Q_SIGNALS:
     /// A link to an entry was followed; the manager displays it next.
+    ///
+    /// A host that shows this in a popover closes it here.
     void detailViewRequested(const QString &label,
                              const std::shared_ptr<Tavrin::Specification> &specification);
     /// The rows are all there now.
+    ///
+    /// Only if rows were missing, or an image was drawn at a higher resolution.
     void loaded();
 
 protected:

@@ -10,15 +10,18 @@ namespace Tavrin
 
 class SpecErrorViewController;
 
-/// Hears of the button of an error view.
+/// Hears of the button of an error view. Held weakly; main thread.
 class TAVRIN_WIDGETS_EXPORT SpecErrorViewControllerDelegate
 {
 public:
     virtual ~SpecErrorViewControllerDelegate();
+    /// The view may be put away now.
     virtual void specErrorViewControllerButtonPressed(SpecErrorViewController &controller) = 0;
 };
 
 /// Says why there is nothing to show, with a button that does something about it. Main thread.
+///
+/// SpecificationManager::makeNoSpecsController gives one that leads to the import.
 class TAVRIN_WIDGETS_EXPORT SpecErrorViewController : public ViewController
 {
     Q_OBJECT
@@ -53,6 +56,7 @@ public:
     void buttonPressed();
 
 Q_SIGNALS:
+    /// Message or button have changed; the view has followed.
     void changed();
 
 protected:

@@ -28,6 +28,10 @@ class TokenLayout;
 /// as a whole; a double click, or F2, makes text of one again. Copies keep the objects for other
 /// token fields, and are editing strings, a line each, for everybody else. The field grows by rows
 /// up to a limit, then scrolls. Without a delegate tokens are texts. Main thread.
+///
+/// It knows nothing of specifications: SpecEntryTokenFieldDelegate makes it a field of references.
+/// Its value is that of a form, and can be bound by QDataWidgetMapper, as it is the USER property.
+/// Text that is longer than 32767 units is cut.
 class TAVRIN_WIDGETS_EXPORT TokenField : public QAbstractScrollArea
 {
     Q_OBJECT
@@ -41,43 +45,53 @@ public:
     explicit TokenField(QWidget *parent = nullptr);
     ~TokenField() override;
 
-    /// Not kept alive.
+    /// Not kept alive. Null for none.
     std::shared_ptr<TokenFieldDelegate> delegate() const;
+    /// What tokens there are is shown anew.
     void setDelegate(const std::weak_ptr<TokenFieldDelegate> &delegate);
 
     /// A list of what the tokens stand for, in order. Text that is no token yet counts as the one
     /// that it would become.
+    ///
+    /// A QVariantList. What an object is, the delegate decides: the default is QString.
     QVariant objectValue() const;
     /// A value that isn't a list becomes the only token; one that isn't valid leaves none. What
     /// could be undone is forgotten.
+    ///
+    /// A QVariantList or QStringList. objectValueChanged() comes, as after an edit.
     void setObjectValue(const QVariant &value);
     /// The same as an edit of the user's, which can be undone.
     void editObjectValue(const QVariant &value);
-    /// Asks the delegate again what tokens show and whether they have a menu.
+    /// Asks the delegate again what tokens show and whether they have a menu. The value stays.
     void reloadTokens();
 
     /// Each of these ends a token, and so do ends of lines. "\n" at first.
     const QString &tokenizingCharacters() const;
+    /// Counts for what is typed and pasted from now on.
     void setTokenizingCharacters(const QString &characters);
     /// Shown while the field is empty.
     const QString &placeholderText() const { return m_placeholderText; }
     void setPlaceholderText(const QString &text);
-    /// From this many rows on it scrolls; 5 at first.
+    /// From this many rows on it scrolls; 5 at first. At least 1.
     int maximumVisibleRows() const { return m_maximumVisibleRows; }
     void setMaximumVisibleRows(int rows);
 
+    /// Text that is no token yet isn't counted.
     int tokenCount() const;
-    /// Where a token is drawn, in the viewport.
+    /// Where a token is drawn, in the viewport. From 0; empty beyond the tokens.
     QRect tokenRect(int index) const;
+    /// Selects a token as a click does; nothing happens beyond the tokens.
     void selectToken(int index);
     /// Shows the menu of a token, if it has one.
     void showTokenMenu(int index);
 
     /// Content, cursor and history; the library's own.
     TokenEditor &editor() const { return *m_editor; }
+    /// The list of completions; the library's own.
     TokenCompleter &completer() const { return *m_completer; }
     /// Where the caret is, or would be at a position of the content, in the viewport.
     QRect caretRect() const;
+    /// Where the caret would be at a position of the content, in the viewport.
     QRect caretRect(qsizetype position) const;
     /// The position of the content nearest to a point of the viewport.
     qsizetype positionAt(const QPoint &point) const;
@@ -87,15 +101,25 @@ public:
     QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
 
 public Q_SLOTS:
+    /// Takes the last edit back; as many as 200 can be.
     void undo();
+    /// Does again what was taken back.
     void redo();
+    /// Copies what is selected and takes it out.
     void cut();
+    /// Puts what is selected on the clipboard; nothing happens if nothing is.
     void copy() const;
+    /// Puts in what is on the clipboard: tokens of another field with their objects, text by lines,
+    /// each a token.
     void paste();
+    /// Selects tokens and text.
     void selectAll();
-    /// Makes tokens of all text.
+    /// Makes tokens of all text. Blanks alone make none.
     void tokenizeText();
     /// Offers what the text before the cursor can be completed to, even if there is none.
+    ///
+    /// Nothing is offered without a delegate, while the field is disabled, and while something is
+    /// selected.
     void complete();
 
 Q_SIGNALS:

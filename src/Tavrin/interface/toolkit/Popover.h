@@ -21,6 +21,10 @@ namespace Tavrin
 /// takes the size that its view wants as long as there is room. Tab stays within it. It closes on
 /// Escape, on a click outside, which has its usual effect too, and when what it points to goes; the
 /// focus then returns to where it was. Main thread.
+///
+/// Usually with what SpecificationManager::summaryLookup gave:
+///
+/// \snippet minimal/main.cpp show
 class TAVRIN_WIDGETS_EXPORT Popover : public QWidget
 {
     Q_OBJECT
@@ -28,12 +32,22 @@ class TAVRIN_WIDGETS_EXPORT Popover : public QWidget
 public:
     /// Shows one that points to a rectangle of a widget. It belongs to the widget's window, and is
     /// deleted when it closes.
+    ///
+    /// `rect` is in the coordinates of `of`, whose window has to be on the screen for anything to
+    /// be seen. `controller` must not be null, which it is where a process has no windows, and is
+    /// kept until the popover goes; its view is made now and becomes the popover's, so a view that
+    /// was elsewhere leaves there. The focus goes to the first part of the view that takes it.
+    ///
+    /// Several may be open at once; the pointer that is returned is not yours, and ends with the
+    /// popover: hold it in a QPointer.
     static Popover *show(ViewControllerPtr controller, const QRect &rect, QWidget &of);
     ~Popover() override;
 
+    /// The controller of the view; never null.
     ViewController *viewController() const { return m_controller.get(); }
 
 Q_SIGNALS:
+    /// Once; the object is deleted when the event loop runs next.
     void closed();
 
 protected:

@@ -24,20 +24,21 @@ public:
     explicit SegmentedControl(QWidget *parent = nullptr);
 
     /// Adds one at the end. `label` is drawn, a sign for example; `name` says what it does, as tool
-    /// tip and to assistive technology.
+    /// tip and to assistive technology. Segments count from 0. Both texts are in the user's
+    /// language.
     void addSegment(const QString &label, const QString &name);
     int segmentCount() const { return static_cast<int>(m_segments.size()); }
     /// Null if there is none of that index.
     QToolButton *segment(int index) const;
 
-    /// All are enabled at first.
+    /// All are enabled at first. An index that there is none of is passed over.
     void setSegmentEnabled(int index, bool enabled);
 
     /// The one that was pressed last; -1 at first.
     int selectedSegment() const { return m_selectedSegment; }
 
 Q_SIGNALS:
-    /// selectedSegment() says which, too.
+    /// selectedSegment() says which, too. By mouse or key.
     void pressed(int index);
 
 protected:

@@ -23,6 +23,7 @@ class TAVRIN_WIDGETS_EXPORT TableView : public QWidget
     Q_OBJECT
 
 public:
+    /// What a column is called and how wide it may be.
     struct Column {
         QString identifier;
         /// In pixels.
@@ -37,6 +38,7 @@ public:
     {
     public:
         virtual ~Source() = default;
+        /// Asked often, so it should be quick.
         virtual int numberOfRows() const = 0;
         /// A cell made by makeView(), filled; null leaves the place empty.
         virtual QWidget *tableViewCell(const Column *column, int row) = 0;
@@ -48,6 +50,7 @@ public:
 
     /// The source must outlive the table, or be taken away.
     void setSource(Source *source) { m_source = source; }
+    /// Behind the others, before the first reload.
     void addColumn(const Column &column) { m_columns.push_back(column); }
     /// Null if there is none of that name. Valid until a column is added.
     Column *column(const QString &identifier);
@@ -55,6 +58,7 @@ public:
     int columnIndex(const QString &identifier) const;
 
     using CellMaker = std::function<std::unique_ptr<QWidget>()>;
+    /// How makeView() makes a cell of this name.
     void registerCell(const QString &identifier, const CellMaker &maker);
     /// A cell that a reload has set free, or a new one; a child of this table, hidden. Null for an
     /// identifier that is not registered.

@@ -20,6 +20,11 @@ namespace Tavrin
 /// the window or with its controller, whichever ends first. Main thread.
 ///
 /// Controllers that others hold, hand on or are told of as delegates live in a std::shared_ptr.
+///
+/// A host that displays one keeps the controller as long as the view is to be seen, and the former
+/// one until the call that replaces it has returned, since a click in it may have led there:
+///
+/// \snippet minimal/main.cpp display
 class TAVRIN_WIDGETS_EXPORT ViewController : public QObject,
                                              public std::enable_shared_from_this<ViewController>
 {
@@ -30,10 +35,13 @@ public:
     ~ViewController() override;
 
     /// The view, made now if need be; null only after a window took it along when it closed.
+    ///
+    /// It has no parent at first: whoever puts it into a window gives it one. Deleting the
+    /// controller deletes it there.
     QWidget *view();
     bool isViewLoaded() const { return !m_view.isNull(); }
 
-    /// What a window that shows the view should be called; empty at first.
+    /// What a window that shows the view should be called; empty at first. In the user's language.
     const QString &title() const { return m_title; }
     void setTitle(const QString &title);
 
@@ -43,19 +51,27 @@ public:
         return m_children;
     }
     /// Behind the others. Before the view is loaded, which is when a view takes in its parts.
+    ///
+    /// Later, it is only kept.
     void addChildViewController(const std::shared_ptr<ViewController> &child);
 
 Q_SIGNALS:
+    /// For a window that shows the view.
     void titleChanged(const QString &title);
 
 protected:
     /// Makes the view. Called once.
+    ///
+    /// Null ends the process.
     virtual std::unique_ptr<QWidget> loadView() = 0;
     /// Called once, when the view is there.
     virtual void viewDidLoad() {}
-    /// Around each time that the view is shown, and after it was hidden.
+    /// Around each time that the view is shown, and after it was hidden. The first: before the view
+    /// is on the screen.
     virtual void viewWillAppear() {}
+    /// In the next turn of the event loop, if it is still visible then.
     virtual void viewDidAppear() {}
+    /// After it was hidden; a window that is minimised doesn't count.
     virtual void viewDidDisappear() {}
 
     bool eventFilter(QObject *watched, QEvent *event) override;
