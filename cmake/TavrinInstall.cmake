@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: Apache-2.0
 # What an installation holds: the libraries with their public headers and a package
-# configuration, the programs, the grammar of maps, and the licence.
+# configuration, the programs with manual and completions, the grammar of maps, and the licence.
 
 include(CMakePackageConfigHelpers)
 
@@ -40,6 +40,13 @@ if(TARGET tavrin-reader)
     DESTINATION "${CMAKE_INSTALL_DATADIR}/applications")
   install(FILES apps/reader/tavrin-reader.svg
     DESTINATION "${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps")
+endif()
+if(TARGET tavrin_documents)
+  set(manuals "${CMAKE_BINARY_DIR}/manuals")
+  install(DIRECTORY "${manuals}/man/" DESTINATION "${CMAKE_INSTALL_MANDIR}")
+  foreach(shell IN ITEMS bash-completion zsh fish)
+    install(DIRECTORY "${manuals}/${shell}" DESTINATION "${CMAKE_INSTALL_DATADIR}")
+  endforeach()
 endif()
 
 configure_package_config_file(cmake/TavrinConfig.cmake.in "${CMAKE_BINARY_DIR}/TavrinConfig.cmake"

@@ -74,20 +74,22 @@ QString AccuracyCommand::details() const
            "tx, ty, ttop, tpage, ok, body, bodyok. Exit code 1: a share is beyond its bound."_s;
 }
 
-void AccuracyCommand::describe(QCommandLineParser &parser) const
+void AccuracyCommand::describe(CommandDescription &description) const
 {
-    MapFile::describe(parser);
+    MapFile::describe(description);
     for (const Line &line : lines) {
         const QString what = line.isCeiling ? u"At most this many per cent (%1)."_s
                                             : u"At least this many per cent (%1)."_s;
         const QString standard = QString::fromLatin1(line.standard);
-        parser.addOption({QString::fromLatin1(line.option), what.arg(standard), u"P"_s, standard});
+        description.addOption({QString::fromLatin1(line.option), what.arg(standard),
+                               ValueDescription::text(u"P"_s), standard});
     }
-    parser.addOption({u"faults"_s, u"List the items that are wrong."_s});
-    parser.addOption({u"json"_s, u"Print as JSON."_s});
-    parser.addPositionalArgument(u"MAP.xml"_s, u"The map."_s);
-    parser.addPositionalArgument(u"DOC.pdf"_s, u"The document."_s);
-    parser.addPositionalArgument(u"TRUTH.tsv"_s, u"What the document holds."_s);
+    description.addOption({u"faults"_s, u"List the items that are wrong."_s});
+    description.addOption({u"json"_s, u"Print as JSON."_s});
+    description.addArgument({ValueDescription::map(u"MAP.xml"_s), u"The map."_s});
+    description.addArgument({ValueDescription::pdf(u"DOC.pdf"_s), u"The document."_s});
+    description.addArgument(
+        {ValueDescription::file(u"TRUTH.tsv"_s), u"What the document holds."_s});
 }
 
 ExitCode AccuracyCommand::run(const QCommandLineParser &parser) const

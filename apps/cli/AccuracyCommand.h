@@ -16,7 +16,7 @@ public:
         return QStringLiteral("measures what is read of a document against a table of truth");
     }
     QString details() const override;
-    void describe(QCommandLineParser &parser) const override;
+    void describe(CommandDescription &description) const override;
     ExitCode run(const QCommandLineParser &parser) const override;
 };
 

@@ -52,16 +52,17 @@ QString AtCommand::details() const
            "document, the one that was imported is meant."_s;
 }
 
-void AtCommand::describe(QCommandLineParser &parser) const
+void AtCommand::describe(CommandDescription &description) const
 {
-    Library::describe(parser);
-    parser.addOptions({
-        {u"page"_s, u"The page."_s, u"N"_s, u"1"_s},
-        {u"x"_s, u"Points from the left."_s, u"X"_s},
-        {u"y"_s, u"Points from the bottom."_s, u"Y"_s},
+    Library::describe(description);
+    description.addOptions({
+        {u"page"_s, u"The page."_s, ValueDescription::text(u"N"_s), u"1"_s},
+        {u"x"_s, u"Points from the left."_s, ValueDescription::text(u"X"_s)},
+        {u"y"_s, u"Points from the bottom."_s, ValueDescription::text(u"Y"_s)},
         {u"json"_s, u"Print as JSON."_s},
     });
-    parser.addPositionalArgument(u"DOC.pdf"_s, u"The document."_s, u"[DOC.pdf]"_s);
+    description.addArgument({ValueDescription::pdf(u"DOC.pdf"_s), u"The document."_s,
+                             ArgumentDescription::Count::AtMostOne});
 }
 
 ExitCode AtCommand::run(const QCommandLineParser &parser) const

@@ -161,26 +161,29 @@ QString AuditCommand::details() const
            "is unknown or a demand is not met."_s;
 }
 
-void AuditCommand::describe(QCommandLineParser &parser) const
+void AuditCommand::describe(CommandDescription &description) const
 {
-    parser.addOptions({
-        {u"map"_s, u"The map of the specification. Required."_s, u"MAP.xml"_s},
-        {u"pdf"_s, u"The specification's PDF."_s, u"DOC.pdf"_s},
+    description.addOptions({
+        {u"map"_s, u"The map of the specification. Required."_s,
+         ValueDescription::map(u"MAP.xml"_s)},
+        {u"pdf"_s, u"The specification's PDF."_s, ValueDescription::pdf(u"DOC.pdf"_s)},
         {u"format"_s,
          u"Write a report: rtf, html, csv, json or junit; else as the name of the output says."_s,
-         u"FORMAT"_s},
+         ValueDescription::choice(u"FORMAT"_s,
+                                  {u"rtf"_s, u"html"_s, u"csv"_s, u"json"_s, u"junit"_s})},
         {{u"o"_s, u"output"_s},
          u"Write the report to this file; else, or with -, to standard output."_s,
-         u"OUT"_s},
+         ValueDescription::file(u"OUT"_s)},
         {u"require"_s,
          u"Demand that every entry is cited whose label, number or name is like this, \"4.2.*\" "
          "for example; may be given several times."_s,
-         u"PATTERN"_s},
+         ValueDescription::text(u"PATTERN"_s)},
         {u"min-coverage"_s, u"Demand that this many per cent of the entries are covered."_s,
-         u"P"_s},
+         ValueDescription::text(u"P"_s)},
     });
-    MapFile::describe(parser);
-    parser.addPositionalArgument(u"REFS"_s, u"The references."_s, u"[REFS…]"_s);
+    MapFile::describe(description);
+    description.addArgument(
+        {ValueDescription::file(u"REFS"_s), u"The references."_s, ArgumentDescription::Count::Any});
 }
 
 ExitCode AuditCommand::run(const QCommandLineParser &parser) const

@@ -16,7 +16,7 @@ public:
         return QStringLiteral("tells what a list of references covers of a specification");
     }
     QString details() const override;
-    void describe(QCommandLineParser &parser) const override;
+    void describe(CommandDescription &description) const override;
     ExitCode run(const QCommandLineParser &parser) const override;
 };
 

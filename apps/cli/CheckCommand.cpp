@@ -98,14 +98,14 @@ QString CheckCommand::details() const
            "Exit code 1 says that an entry, or the map's verifier, is at fault."_s;
 }
 
-void CheckCommand::describe(QCommandLineParser &parser) const
+void CheckCommand::describe(CommandDescription &description) const
 {
-    MapFile::describe(parser);
-    parser.addOptions({
-        {u"pdf"_s, u"The PDF to hold the map against."_s, u"DOC.pdf"_s},
+    MapFile::describe(description);
+    description.addOptions({
+        {u"pdf"_s, u"The PDF to hold the map against."_s, ValueDescription::pdf(u"DOC.pdf"_s)},
         {u"json"_s, u"Print counts and faults as JSON."_s},
     });
-    parser.addPositionalArgument(u"MAP.xml"_s, u"The map."_s);
+    description.addArgument({ValueDescription::map(u"MAP.xml"_s), u"The map."_s});
 }
 
 ExitCode CheckCommand::run(const QCommandLineParser &parser) const

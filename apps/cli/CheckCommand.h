@@ -17,7 +17,7 @@ public:
             "checks a map, and with a PDF whether its entries stand where it says");
     }
     QString details() const override;
-    void describe(QCommandLineParser &parser) const override;
+    void describe(CommandDescription &description) const override;
     ExitCode run(const QCommandLineParser &parser) const override;
 };
 

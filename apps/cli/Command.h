@@ -4,8 +4,14 @@
 #include <QCommandLineParser>
 #include <QString>
 
+#include <commandline/CommandDescription.h>
+
 namespace Tavrin::Cli
 {
+
+using CommandLine::ArgumentDescription;
+using CommandLine::CommandDescription;
+using CommandLine::ValueDescription;
 
 /// What a command tells the shell.
 enum ExitCode { Success = 0, NotFound = 1, BadInput = 2 };
@@ -22,7 +28,7 @@ public:
     /// More for the command's own help.
     virtual QString details() const = 0;
     /// Adds options and positional arguments.
-    virtual void describe(QCommandLineParser &parser) const = 0;
+    virtual void describe(CommandDescription &description) const = 0;
     /// Runs with parsed arguments. Whatever it throws is a fault of the input.
     virtual ExitCode run(const QCommandLineParser &parser) const = 0;
 };

@@ -29,19 +29,21 @@ QString DraftCommand::details() const
            "holds its DTD. Read it, mend it, and let tavrin check hold it against the PDF."_s;
 }
 
-void DraftCommand::describe(QCommandLineParser &parser) const
+void DraftCommand::describe(CommandDescription &description) const
 {
-    parser.addOptions({
+    description.addOptions({
         {{u"o"_s, u"output"_s},
          u"Write the map to this file; else to standard output."_s,
-         u"MAP.xml"_s},
+         ValueDescription::map(u"MAP.xml"_s)},
         {u"dtd"_s, u"Make this DTD part of the map instead of the one that comes with Tavrin."_s,
-         u"D.dtd"_s},
-        {u"id"_s, u"The specification's identifier; else made from its title."_s, u"ID"_s},
-        {u"revision"_s, u"Its revision; else as the document tells it."_s, u"REV"_s},
-        {u"title"_s, u"Its title; else the document's."_s, u"TITLE"_s},
+         ValueDescription::file(u"D.dtd"_s)},
+        {u"id"_s, u"The specification's identifier; else made from its title."_s,
+         ValueDescription::text(u"ID"_s)},
+        {u"revision"_s, u"Its revision; else as the document tells it."_s,
+         ValueDescription::text(u"REV"_s)},
+        {u"title"_s, u"Its title; else the document's."_s, ValueDescription::text(u"TITLE"_s)},
     });
-    parser.addPositionalArgument(u"DOC.pdf"_s, u"The document."_s);
+    description.addArgument({ValueDescription::pdf(u"DOC.pdf"_s), u"The document."_s});
 }
 
 ExitCode DraftCommand::run(const QCommandLineParser &parser) const

@@ -196,36 +196,41 @@ QString EnhanceCommand::details() const
            "for none."_s;
 }
 
-void EnhanceCommand::describe(QCommandLineParser &parser) const
+void EnhanceCommand::describe(CommandDescription &description) const
 {
-    parser.addOptions({
-        {{u"o"_s, u"output"_s}, u"Write the map to this file."_s, u"MAP.xml"_s},
+    description.addOptions({
+        {{u"o"_s, u"output"_s},
+         u"Write the map to this file."_s,
+         ValueDescription::map(u"MAP.xml"_s)},
         {u"dtd"_s, u"Make this DTD part of the map instead of the one that comes with Tavrin."_s,
-         u"D.dtd"_s},
+         ValueDescription::file(u"D.dtd"_s)},
         {u"approximate"_s,
          u"For a PDF without usable destinations: go by its outline and captions."_s},
         {u"required-marker"_s, u"The name of a link must contain this; else it is none."_s,
-         u"TEXT"_s},
-        {u"ignore-marker"_s, u"A name that contains this is no link."_s, u"TEXT"_s},
+         ValueDescription::text(u"TEXT"_s)},
+        {u"ignore-marker"_s, u"A name that contains this is no link."_s,
+         ValueDescription::text(u"TEXT"_s)},
         {u"type-marker"_s,
          u"A name that contains this is a link of that type: section, chapter, figure or table."_s,
-         u"TEXT=TYPE"_s},
-        {u"stop-words"_s, u"File of lemmas that are no keywords, one a line."_s, u"FILE"_s},
-        {u"terminator"_s, u"A token that ends a phrase."_s, u"TEXT"_s},
+         ValueDescription::text(u"TEXT=TYPE"_s)},
+        {u"stop-words"_s, u"File of lemmas that are no keywords, one a line."_s,
+         ValueDescription::file(u"FILE"_s)},
+        {u"terminator"_s, u"A token that ends a phrase."_s, ValueDescription::text(u"TEXT"_s)},
     });
     const PDFXMLEnhancer defaults;
     for (const NumberOption &option : numberOptions()) {
-        parser.addOption({option.name,
-                          option.help + u" Default %1."_s.arg((defaults.*option.value)()),
-                          u"NUMBER"_s});
+        description.addOption({option.name,
+                               option.help + u" Default %1."_s.arg((defaults.*option.value)()),
+                               ValueDescription::text(u"NUMBER"_s)});
     }
     for (const CountOption &option : countOptions()) {
-        parser.addOption({option.name,
-                          option.help + u" Default %1."_s.arg((defaults.*option.value)()),
-                          u"COUNT"_s});
+        description.addOption({option.name,
+                               option.help + u" Default %1."_s.arg((defaults.*option.value)()),
+                               ValueDescription::text(u"COUNT"_s)});
     }
-    parser.addPositionalArgument(u"SKELETON.xml"_s, u"A map, at least with labels and titles."_s);
-    parser.addPositionalArgument(u"DOC.pdf"_s, u"The document."_s);
+    description.addArgument(
+        {ValueDescription::map(u"SKELETON.xml"_s), u"A map, at least with labels and titles."_s});
+    description.addArgument({ValueDescription::pdf(u"DOC.pdf"_s), u"The document."_s});
 }
 
 ExitCode EnhanceCommand::run(const QCommandLineParser &parser) const

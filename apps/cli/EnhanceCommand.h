@@ -16,7 +16,7 @@ public:
         return QStringLiteral("adds links, keywords and related entries to a map");
     }
     QString details() const override;
-    void describe(QCommandLineParser &parser) const override;
+    void describe(CommandDescription &description) const override;
     ExitCode run(const QCommandLineParser &parser) const override;
 };
 

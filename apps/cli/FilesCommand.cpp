@@ -21,10 +21,11 @@ QString FilesCommand::details() const
            "--maps alone."_s;
 }
 
-void FilesCommand::describe(QCommandLineParser &parser) const
+void FilesCommand::describe(CommandDescription &description) const
 {
-    parser.addOptions({
-        {u"maps"_s, u"Directory of spec maps; may be given several times."_s, u"DIR"_s},
+    description.addOptions({
+        {u"maps"_s, u"Directory of spec maps; may be given several times."_s,
+         ValueDescription::directory(u"DIR"_s)},
         {u"json"_s, u"Print as JSON."_s},
     });
 }

@@ -13,7 +13,7 @@ public:
     QString name() const override { return QStringLiteral("files"); }
     QString summary() const override { return QStringLiteral("lists the imported PDFs"); }
     QString details() const override;
-    void describe(QCommandLineParser &parser) const override;
+    void describe(CommandDescription &description) const override;
     ExitCode run(const QCommandLineParser &parser) const override;
 };
 

@@ -50,10 +50,11 @@ QString ForgetCommand::details() const
            "alone."_s;
 }
 
-void ForgetCommand::describe(QCommandLineParser &parser) const
+void ForgetCommand::describe(CommandDescription &description) const
 {
-    parser.addOption({u"json"_s, u"Print what was deleted as JSON."_s});
-    parser.addPositionalArgument(u"FILE"_s, u"The copies."_s, u"FILE…"_s);
+    description.addOption({u"json"_s, u"Print what was deleted as JSON."_s});
+    description.addArgument({ValueDescription::file(u"FILE"_s), u"The copies."_s,
+                             ArgumentDescription::Count::OneOrMore});
 }
 
 ExitCode ForgetCommand::run(const QCommandLineParser &parser) const

@@ -13,7 +13,7 @@ public:
     QString name() const override { return QStringLiteral("forget"); }
     QString summary() const override { return QStringLiteral("deletes imported copies"); }
     QString details() const override;
-    void describe(QCommandLineParser &parser) const override;
+    void describe(CommandDescription &description) const override;
     ExitCode run(const QCommandLineParser &parser) const override;
 };
 

@@ -18,14 +18,14 @@ QString GraphCommand::details() const
            "specifications are left out. The page of --html loads nothing from elsewhere."_s;
 }
 
-void GraphCommand::describe(QCommandLineParser &parser) const
+void GraphCommand::describe(CommandDescription &description) const
 {
-    parser.addOptions({
+    description.addOptions({
         {u"dot"_s, u"In the language of Graphviz; what is written without an option."_s},
         {u"html"_s, u"One page to look at in a browser, complete in itself."_s},
     });
-    MapFile::describe(parser);
-    parser.addPositionalArgument(u"MAP.xml"_s, u"The map."_s);
+    MapFile::describe(description);
+    description.addArgument({ValueDescription::map(u"MAP.xml"_s), u"The map."_s});
 }
 
 ExitCode GraphCommand::run(const QCommandLineParser &parser) const

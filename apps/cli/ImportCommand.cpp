@@ -78,11 +78,12 @@ QString ImportCommand::details() const
            "nothing."_s;
 }
 
-void ImportCommand::describe(QCommandLineParser &parser) const
+void ImportCommand::describe(CommandDescription &description) const
 {
-    Library::describeMaps(parser);
-    parser.addOption({u"json"_s, u"Print the copies as JSON."_s});
-    parser.addPositionalArgument(u"FILE"_s, u"The PDFs."_s, u"FILE…"_s);
+    Library::describeMaps(description);
+    description.addOption({u"json"_s, u"Print the copies as JSON."_s});
+    description.addArgument(
+        {ValueDescription::pdf(u"FILE"_s), u"The PDFs."_s, ArgumentDescription::Count::OneOrMore});
 }
 
 ExitCode ImportCommand::run(const QCommandLineParser &parser) const

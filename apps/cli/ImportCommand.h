@@ -16,7 +16,7 @@ public:
         return QStringLiteral("keeps copies of PDFs for all later commands");
     }
     QString details() const override;
-    void describe(QCommandLineParser &parser) const override;
+    void describe(CommandDescription &description) const override;
     ExitCode run(const QCommandLineParser &parser) const override;
 };
 

@@ -46,19 +46,20 @@ QString InspectCommand::details() const
            "tables a red one."_s;
 }
 
-void InspectCommand::describe(QCommandLineParser &parser) const
+void InspectCommand::describe(CommandDescription &description) const
 {
-    MapFile::describe(parser);
-    parser.addOptions({
+    MapFile::describe(description);
+    description.addOptions({
         {u"entries"_s, u"Show the regions of a map's entries, and which lines are body text."_s,
-         u"MAP.xml"_s},
-        {u"page"_s, u"The page to show (1)."_s, u"N"_s, u"1"_s},
+         ValueDescription::map(u"MAP.xml"_s)},
+        {u"page"_s, u"The page to show (1)."_s, ValueDescription::text(u"N"_s), u"1"_s},
         {u"png"_s, u"Draw the page with its lines and destinations into a picture."_s,
-         u"OUT.png"_s},
-        {u"scale"_s, u"Pixels per point of the picture (2)."_s, u"S"_s, u"2"_s},
+         ValueDescription::file(u"OUT.png"_s)},
+        {u"scale"_s, u"Pixels per point of the picture (2)."_s, ValueDescription::text(u"S"_s),
+         u"2"_s},
         {u"json"_s, u"Print as JSON."_s},
     });
-    parser.addPositionalArgument(u"DOC.pdf"_s, u"The document."_s);
+    description.addArgument({ValueDescription::pdf(u"DOC.pdf"_s), u"The document."_s});
 }
 
 ExitCode InspectCommand::run(const QCommandLineParser &parser) const

@@ -16,7 +16,7 @@ public:
         return QStringLiteral("shows what is on a page: lines, destinations, outline, objects");
     }
     QString details() const override;
-    void describe(QCommandLineParser &parser) const override;
+    void describe(CommandDescription &description) const override;
     ExitCode run(const QCommandLineParser &parser) const override;
 };
 

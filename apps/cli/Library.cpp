@@ -15,6 +15,8 @@ namespace Tavrin::Cli
 {
 
 using namespace Qt::StringLiterals;
+using CommandLine::CommandDescription;
+using CommandLine::ValueDescription;
 
 namespace
 {
@@ -31,20 +33,21 @@ std::optional<int> lineNumber(const QString &text)
 
 } // namespace
 
-void Library::describe(QCommandLineParser &parser)
+void Library::describe(CommandDescription &description)
 {
-    describeMaps(parser);
-    parser.addOption(
+    describeMaps(description);
+    description.addOption(
         {u"pdf"_s,
          u"PDF to bind to the map that recognises it; may be given several times. Imported PDFs "
          "need not be named."_s,
-         u"DOC.pdf"_s});
+         ValueDescription::pdf(u"DOC.pdf"_s)});
 }
 
-void Library::describeMaps(QCommandLineParser &parser)
+void Library::describeMaps(CommandDescription &description)
 {
-    parser.addOption(
-        {u"maps"_s, u"Directory of spec maps. Required; may be given several times."_s, u"DIR"_s});
+    description.addOption({u"maps"_s,
+                           u"Directory of spec maps. Required; may be given several times."_s,
+                           ValueDescription::directory(u"DIR"_s)});
 }
 
 Library::Library(const QCommandLineParser &parser, const QStringList &furtherPDFs)

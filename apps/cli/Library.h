@@ -8,6 +8,7 @@
 #include <Tavrin/manager/EntryFinder.h>
 #include <Tavrin/manager/SpecificationManager.h>
 #include <Tavrin/pdf/CachingPDFDocument.h>
+#include <commandline/CommandDescription.h>
 
 namespace Tavrin::Cli
 {
@@ -17,9 +18,9 @@ namespace Tavrin::Cli
 class Library
 {
 public:
-    static void describe(QCommandLineParser &parser);
+    static void describe(CommandLine::CommandDescription &description);
     /// Adds `--maps` alone.
-    static void describeMaps(QCommandLineParser &parser);
+    static void describeMaps(CommandLine::CommandDescription &description);
 
     /// Registers the maps and binds the PDFs, `furtherPDFs` like those of `--pdf`. Throws what is
     /// wrong with either.

@@ -72,6 +72,21 @@ void printSpecification(const Specification &specification)
                                 : localized("no PDF bound", "a specification")));
 }
 
+/// For shells that complete labels, which wait for it: no PDF is looked at.
+void printLabels(const QCommandLineParser &parser,
+                 const std::optional<SpecificationEntryType> &type)
+{
+    SpecificationManager manager;
+    manager.setAuxiliaryFiles({});
+    Library::registerMaps(manager, parser);
+    for (const auto &specification : manager.specifications()) {
+        if (specification->entries().isEmpty())
+            specification->loadStructure();
+        for (const EntryPtr &entry : entriesInOrder(*specification, type))
+            Console::print(entry->label() + u'\t' + EntryReport::heading(*entry));
+    }
+}
+
 } // namespace
 
 QString ListCommand::details() const
@@ -81,12 +96,16 @@ QString ListCommand::details() const
            "their places."_s;
 }
 
-void ListCommand::describe(QCommandLineParser &parser) const
+void ListCommand::describe(CommandDescription &description) const
 {
-    Library::describe(parser);
-    parser.addOptions({
+    Library::describe(description);
+    description.addOptions({
         {u"entries"_s, u"List the entries too, in document order."_s},
-        {u"type"_s, u"Only entries of this kind: section, chapter, figure or table."_s, u"TYPE"_s},
+        {u"type"_s, u"Only entries of this kind: section, chapter, figure or table."_s,
+         ValueDescription::choice(u"TYPE"_s,
+                                  {u"section"_s, u"chapter"_s, u"figure"_s, u"table"_s})},
+        {u"labels"_s,
+         u"Print nothing but a line for each entry: its label, a tab, and what it is called."_s},
         {u"json"_s, u"Print as JSON."_s},
     });
 }
@@ -94,6 +113,10 @@ void ListCommand::describe(QCommandLineParser &parser) const
 ExitCode ListCommand::run(const QCommandLineParser &parser) const
 {
     const auto type = typeOption(parser);
+    if (parser.isSet(u"labels"_s)) {
+        printLabels(parser, type);
+        return Success;
+    }
     const bool withEntries = type || parser.isSet(u"entries"_s);
     const bool asJson = parser.isSet(u"json"_s);
     Library library(parser);

@@ -40,11 +40,12 @@ QString LookupCommand::details() const
            "answers, in the order of tavrin list; spec://4.2.1/ID/* asks one map alone."_s;
 }
 
-void LookupCommand::describe(QCommandLineParser &parser) const
+void LookupCommand::describe(CommandDescription &description) const
 {
-    Library::describe(parser);
-    parser.addOption({u"json"_s, u"Print the entries as JSON."_s});
-    parser.addPositionalArgument(u"LABEL|URL"_s, u"What to look up."_s, u"LABEL|URL…"_s);
+    Library::describe(description);
+    description.addOption({u"json"_s, u"Print the entries as JSON."_s});
+    description.addArgument({ValueDescription::entry(u"LABEL|URL"_s), u"What to look up."_s,
+                             ArgumentDescription::Count::OneOrMore});
 }
 
 ExitCode LookupCommand::run(const QCommandLineParser &parser) const

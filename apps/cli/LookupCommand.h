@@ -16,7 +16,7 @@ public:
         return QStringLiteral("resolves labels, references and spec URLs to their places");
     }
     QString details() const override;
-    void describe(QCommandLineParser &parser) const override;
+    void describe(CommandDescription &description) const override;
     ExitCode run(const QCommandLineParser &parser) const override;
 };
 

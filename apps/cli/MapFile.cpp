@@ -14,6 +14,8 @@ namespace Tavrin::Cli::MapFile
 {
 
 using namespace Qt::StringLiterals;
+using CommandLine::CommandDescription;
+using CommandLine::ValueDescription;
 
 namespace
 {
@@ -27,9 +29,10 @@ QUrl existingFile(const QString &path)
 
 } // namespace
 
-void describe(QCommandLineParser &parser)
+void describe(CommandDescription &description)
 {
-    parser.addOption({u"dtd"_s, u"The DTD of a map that has none of its own."_s, u"D.dtd"_s});
+    description.addOption({u"dtd"_s, u"The DTD of a map that has none of its own."_s,
+                           ValueDescription::file(u"D.dtd"_s)});
 }
 
 std::shared_ptr<Specification> read(const QCommandLineParser &parser, const QString &path)

@@ -6,6 +6,7 @@
 #include <memory>
 
 #include <Tavrin/model/Specification.h>
+#include <commandline/CommandDescription.h>
 
 namespace Tavrin::Cli
 {
@@ -15,7 +16,7 @@ namespace MapFile
 {
 
 /// Adds `--dtd`.
-void describe(QCommandLineParser &parser);
+void describe(CommandLine::CommandDescription &description);
 
 /// Reads the map with its table. Throws what is wrong with it.
 std::shared_ptr<Specification> read(const QCommandLineParser &parser, const QString &path);

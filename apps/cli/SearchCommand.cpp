@@ -46,17 +46,18 @@ QString SearchCommand::details() const
            "Best hits come first, specification by specification."_s;
 }
 
-void SearchCommand::describe(QCommandLineParser &parser) const
+void SearchCommand::describe(CommandDescription &description) const
 {
-    Library::describe(parser);
-    parser.addOptions({
+    Library::describe(description);
+    description.addOptions({
         {u"case-sensitive"_s, u"Tell upper from lower case."_s},
         {u"whole"_s, u"Search the words as one text, blanks included."_s},
-        {u"limit"_s, u"Show at most N hits of each specification (20; 0 for all)."_s, u"N"_s,
-         u"20"_s},
+        {u"limit"_s, u"Show at most N hits of each specification (20; 0 for all)."_s,
+         ValueDescription::text(u"N"_s), u"20"_s},
         {u"json"_s, u"Print the entries as JSON."_s},
     });
-    parser.addPositionalArgument(u"WORDS"_s, u"What to search for."_s, u"WORDS…"_s);
+    description.addArgument({ValueDescription::text(u"WORDS"_s), u"What to search for."_s,
+                             ArgumentDescription::Count::OneOrMore});
 }
 
 ExitCode SearchCommand::run(const QCommandLineParser &parser) const

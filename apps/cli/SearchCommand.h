@@ -13,7 +13,7 @@ public:
     QString name() const override { return QStringLiteral("search"); }
     QString summary() const override { return QStringLiteral("finds entries by words"); }
     QString details() const override;
-    void describe(QCommandLineParser &parser) const override;
+    void describe(CommandDescription &description) const override;
     ExitCode run(const QCommandLineParser &parser) const override;
 };
 

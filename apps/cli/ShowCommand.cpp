@@ -132,15 +132,17 @@ QString ShowCommand::details() const
            "of lines (spec://4.2/*/*/0/3) shows those lines."_s;
 }
 
-void ShowCommand::describe(QCommandLineParser &parser) const
+void ShowCommand::describe(CommandDescription &description) const
 {
-    Library::describe(parser);
-    parser.addOptions({
-        {u"image"_s, u"Draw a figure or table into a picture."_s, u"OUT.png"_s},
-        {u"scale"_s, u"Pixels per point of the picture (2)."_s, u"S"_s, u"2"_s},
+    Library::describe(description);
+    description.addOptions({
+        {u"image"_s, u"Draw a figure or table into a picture."_s,
+         ValueDescription::file(u"OUT.png"_s)},
+        {u"scale"_s, u"Pixels per point of the picture (2)."_s, ValueDescription::text(u"S"_s),
+         u"2"_s},
         {u"json"_s, u"Print as JSON."_s},
     });
-    parser.addPositionalArgument(u"LABEL|URL"_s, u"What to show."_s);
+    description.addArgument({ValueDescription::entry(u"LABEL|URL"_s), u"What to show."_s});
 }
 
 ExitCode ShowCommand::run(const QCommandLineParser &parser) const

@@ -16,7 +16,7 @@ public:
         return QStringLiteral("shows an entry: its text, or the picture of a figure or table");
     }
     QString details() const override;
-    void describe(QCommandLineParser &parser) const override;
+    void describe(CommandDescription &description) const override;
     ExitCode run(const QCommandLineParser &parser) const override;
 };
 

@@ -49,14 +49,15 @@ QString SimilarCommand::details() const
            "specification."_s;
 }
 
-void SimilarCommand::describe(QCommandLineParser &parser) const
+void SimilarCommand::describe(CommandDescription &description) const
 {
-    Library::describe(parser);
-    parser.addOptions({
-        {u"count"_s, u"How many entries of each specification to show (5)."_s, u"N"_s, u"5"_s},
+    Library::describe(description);
+    description.addOptions({
+        {u"count"_s, u"How many entries of each specification to show (5)."_s,
+         ValueDescription::text(u"N"_s), u"5"_s},
         {u"json"_s, u"Print the entries as JSON."_s},
     });
-    parser.addPositionalArgument(u"TEXT"_s, u"The text to compare with."_s);
+    description.addArgument({ValueDescription::text(u"TEXT"_s), u"The text to compare with."_s});
 }
 
 ExitCode SimilarCommand::run(const QCommandLineParser &parser) const

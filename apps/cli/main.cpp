@@ -9,6 +9,7 @@
 #include <optional>
 
 #include <Tavrin/pdfspec/PDFSpecification.h>
+#include <Tavrin/platform/TavrinVersion.h>
 #include <Tavrin/platform/Translations.h>
 
 #include "CommandLineError.h"
@@ -23,37 +24,35 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-void printOverview(const std::vector<std::unique_ptr<Command>> &commands)
+void printOverview()
 {
-    Console::print(u"tavrin makes a specification that exists only as a PDF citable.\n\n"
-                   "usage: tavrin COMMAND [OPTIONS] [ARGUMENTS]\n"_s);
-    for (const auto &command : commands)
-        Console::print(u"  %1%2"_s.arg(command->name(), -10).arg(command->summary()));
-    Console::print(u"\nA beginning:\n\n"
-                   "  tavrin draft DOC.pdf -o maps/DOC.xml\n"
-                   "  tavrin lookup --maps maps --pdf DOC.pdf \"§ 4.2.1\"\n\n"
-                   "tavrin COMMAND --help tells a command's options. Exit codes: 0 done, 1 not "
-                   "found\nor not in order, 2 bad input."_s);
+    const CommandLine::ProgramDescription description = describeProgram();
+    const CommandDescription &program = description.program;
+    Console::print(u"%1 %2.\n\nusage: %1 COMMAND [OPTIONS] [ARGUMENTS]\n"_s.arg(program.name(),
+                                                                                program.summary()));
+    for (const CommandDescription &command : description.commands)
+        Console::print(u"  %1%2"_s.arg(description.shortName(command), -10).arg(command.summary()));
+    Console::print(u"\nA beginning:\n"_s);
+    for (const auto &example : description.examples)
+        Console::print(u"  "_s + example.term);
+    QStringList codes;
+    for (const auto &code : description.exitCodes)
+        codes += code.term + u' ' + code.text;
+    Console::print(u"\n%1 COMMAND --help tells a command's options.\nExit codes: %2."_s.arg(
+        program.name(), codes.join(u", "_s)));
 }
 
 ExitCode runCommand(const Command &command, const QStringList &arguments)
 {
+    const CommandDescription description = describe(command);
     QCommandLineParser parser;
-    QString summary = command.summary();
-    summary[0] = summary[0].toUpper();
-    parser.setApplicationDescription(summary + u".\n\n"_s + command.details());
-    const QCommandLineOption help({u"h"_s, u"help"_s}, u"Show this help."_s);
-    parser.addOption(help);
-    command.describe(parser);
+    description.addTo(parser);
     if (!parser.parse(arguments)) {
         throw CommandLineError(
             u"%1 (%2 --help lists the options)"_s.arg(parser.errorText(), arguments.constFirst()));
     }
-    if (parser.isSet(help)) {
-        // The parser knows nothing of commands; its usage line would leave this one out.
-        const QString program = QCoreApplication::arguments().constFirst();
-        Console::print(parser.helpText().trimmed().replace(u"Usage: "_s + program,
-                                                           u"Usage: "_s + arguments.constFirst()));
+    if (parser.isSet(u"help"_s)) {
+        Console::print(description.help());
         return Success;
     }
     return command.run(parser);
@@ -72,7 +71,7 @@ ExitCode dispatch(QStringList arguments)
         return Success;
     }
     if (name == "--help"_L1 || name == "-h"_L1 || name == "help"_L1) {
-        printOverview(commands);
+        printOverview();
         return Success;
     }
     if (name.isEmpty())
@@ -139,7 +138,7 @@ int main(int argc, char **argv)
     using namespace Qt::StringLiterals;
     const auto application = makeApplication(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("tavrin"));
-    QCoreApplication::setApplicationVersion(QStringLiteral(TAVRIN_VERSION));
+    QCoreApplication::setApplicationVersion(Tavrin::TavrinVersionString);
     const QStringList arguments = QCoreApplication::arguments();
     const Console::PlainStreams streams;
     // Data is the same in every language.

@@ -1,0 +1,12 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <commandline/ProgramDescription.h>
+
+namespace Tavrin::Manuals
+{
+
+/// What fish reads to complete a program's command line. Labels come from `tavrin list --labels`.
+QString fishCompletion(const CommandLine::ProgramDescription &program);
+
+} // namespace Tavrin::Manuals
