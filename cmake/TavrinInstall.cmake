@@ -35,12 +35,6 @@ foreach(program IN ITEMS tavrin tavrin-reader)
     install(TARGETS ${program} RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
   endif()
 endforeach()
-if(TARGET tavrin-reader)
-  install(FILES apps/reader/tavrin-reader.desktop
-    DESTINATION "${CMAKE_INSTALL_DATADIR}/applications")
-  install(FILES apps/reader/tavrin-reader.svg
-    DESTINATION "${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps")
-endif()
 if(TARGET tavrin_documents)
   set(manuals "${CMAKE_BINARY_DIR}/manuals")
   install(DIRECTORY "${manuals}/man/" DESTINATION "${CMAKE_INSTALL_MANDIR}")

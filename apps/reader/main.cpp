@@ -11,6 +11,7 @@
 #include <Tavrin/platform/Translations.h>
 
 #include "ReaderArguments.h"
+#include "SingleInstance.h"
 #include <reader/window/ReaderWindow.h>
 
 using namespace Tavrin::Reader;
@@ -42,17 +43,34 @@ QStringList mapsFor(const ReaderArguments &arguments)
     return maps;
 }
 
-int run(const ReaderArguments &arguments)
+void open(ReaderWindow &window, const ReaderArguments &arguments, const QStringList &maps)
 {
-    Tavrin::PDFSpecification::registerType(Tavrin::PDFReadingPolicy::Common);
-    ReaderWindow window(Tavrin::SpecificationManager::shared());
-    window.show();
     if (!arguments.pdfs.isEmpty())
         window.offerFiles(arguments.pdfs);
-    window.openMaps(mapsFor(arguments));
+    window.openMaps(maps);
     window.bindFiles(arguments.pdfs);
     if (!arguments.reference.isEmpty())
         window.lookUp(arguments.reference);
+}
+
+int run(const ReaderArguments &arguments)
+{
+    const auto instance = SingleInstance::ofSession();
+    const bool listens = !arguments.isNewWindow && instance->listen();
+    if (!listens && !arguments.isNewWindow && instance->handOver(arguments))
+        return 0;
+    Tavrin::PDFSpecification::registerType(Tavrin::PDFReadingPolicy::Common);
+    ReaderWindow window(Tavrin::SpecificationManager::shared());
+    QObject::connect(instance.get(), &SingleInstance::requested, &window,
+                     [&window](const ReaderArguments &request) {
+                         open(window, request, request.maps);
+                         window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
+                         window.show();
+                         window.raise();
+                         window.activateWindow();
+                     });
+    window.show();
+    open(window, arguments, mapsFor(arguments));
     return QApplication::exec();
 }
 
