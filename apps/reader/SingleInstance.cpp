@@ -103,6 +103,8 @@ void SingleInstance::read(QLocalSocket &connection)
         return;
     }
     connection.write(answer);
+    // Opening a document may take longer than the other one waits.
+    connection.flush();
     connection.disconnectFromServer();
     Q_EMIT requested(*arguments);
 }
