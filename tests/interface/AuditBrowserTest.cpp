@@ -668,24 +668,26 @@ TEST_F(AuditBrowser, WritesAReport)
         ASSERT_NE(dialog, nullptr);
         controller->exportAudit();
         EXPECT_EQ(controller->view()->findChildren<QFileDialog *>().size(), 1) << "one at a time";
-        dialog->setOption(QFileDialog::DontConfirmOverwrite);
-        Q_EMIT dialog->urlSelected(QUrl::fromLocalFile(path));
-        dialog->close();
-        ASSERT_NE(sheet(), nullptr);
-        EXPECT_TRUE(waitFor([] { return sheet() == nullptr; }));
+        auto *name = dialog->findChild<QLineEdit *>();
+        ASSERT_NE(name, nullptr);
+        name->setText(path);
+        QTest::keyClick(name, Qt::Key_Return);
+        EXPECT_EQ(sheet(), nullptr) << "the dialog is there still";
     };
     for (const auto &[name, beginning] :
          {std::pair(u"audit.csv"_s, "status,"), std::pair(u"audit.html"_s, "<!DOCTYPE html>"),
           std::pair(u"audit.rtf"_s, "{\\rtf1"), std::pair(u"audit.JSON"_s, "{"),
           std::pair(u"audit.xml"_s, "<?xml")}) {
         writeTo(files.path(name));
+        EXPECT_TRUE(waitFor([&] { return QFileInfo::exists(files.path(name)) && !sheet(); }));
         EXPECT_TRUE(files.read(name).trimmed().startsWith(beginning)) << name.toStdString();
     }
     writeTo(files.path(u"missing/audit.csv"_s));
-    const auto sheets = controller->view()->findChildren<Sheet *>();
-    ASSERT_FALSE(sheets.isEmpty());
-    EXPECT_EQ(sheets.last()->messageText(), u"The audit could not be written."_s);
-    EXPECT_FALSE(sheets.last()->informativeText().isEmpty());
+    EXPECT_TRUE(waitFor([this] {
+        const auto sheets = controller->view()->findChildren<Sheet *>();
+        return !sheets.isEmpty() && !sheets.last()->informativeText().isEmpty() &&
+               sheets.last()->messageText() == u"The audit could not be written."_s;
+    }));
 }
 
 TEST_F(AuditBrowser, ShowsARealDocument)

@@ -97,8 +97,15 @@ void AuditExport::begin(QWidget &window)
     if (m_dialog || m_work)
         return;
     m_dialog = makeDialog(window).release();
-    connect(m_dialog, &QFileDialog::urlSelected, this,
-            [this, &window](const QUrl &url) { write(window, url); });
+    // Told by every kind of dialog; that a URL was chosen is told by those of the desktop alone.
+    // Later, when the dialog has left the screen to the sheet.
+    connect(
+        m_dialog, &QFileDialog::fileSelected, this,
+        [this, shown = QPointer<QWidget>(&window)](const QString &path) {
+            if (shown)
+                write(*shown, QUrl::fromLocalFile(path));
+        },
+        Qt::QueuedConnection);
     m_dialog->open();
 }
 
