@@ -53,7 +53,7 @@ TEST_F(CitationTest, CitesEntriesAndSurvivesSavingAndReloading)
 {
     const QString path = files.path(u"work.json"_s);
     QPointer<CitationWindow> form = window.openCitations();
-    QTest::keyClicks(&form->textField(), u"The pump stops."_s);
+    QTest::keyClicks(form->focusWidget(), u"The pump stops."_s);
     form->tokenField().setFocus();
     QTest::keyClicks(form->tokenField().viewport(), u"Further Limits"_s);
     ASSERT_TRUE(QTest::qWaitFor([&] { return form->tokenField().completer().isShown(); }));
@@ -119,6 +119,25 @@ TEST_F(CitationTest, AsksBeforeChangesAreLost)
     pressSheetButton(*form, u"Don't Save"_s);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_FALSE(form && form->isVisible());
+}
+
+TEST_F(CitationTest, AsksBeforeTheReaderCloses)
+{
+    QPointer<CitationWindow> form = window.openCitations();
+    form->tokenField().setFocus();
+    QTest::keyClicks(form->tokenField().viewport(), u"not yet a token"_s);
+    window.close();
+    EXPECT_TRUE(window.isVisible()) << "there is still something to stay in";
+    pressSheetButton(*form, u"Cancel"_s);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(window.isVisible());
+    ASSERT_TRUE(form && form->isVisible());
+    EXPECT_EQ(citations(*form).front().references, QStringList{u"not yet a token"_s});
+    window.close();
+    pressSheetButton(*form, u"Don't Save"_s);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_FALSE(form);
+    EXPECT_FALSE(window.isVisible());
 }
 
 TEST_F(CitationTest, AuditsWhatIsCited)

@@ -80,6 +80,7 @@ CitationWindow::CitationWindow(SpecificationManager &manager, QWidget *parent)
     CitationDocument fresh;
     fresh.citations.emplace_back();
     showDocument(std::move(fresh));
+    m_text->setFocus(Qt::OtherFocusReason);
 }
 
 CitationWindow::~CitationWindow() = default;
@@ -270,7 +271,7 @@ void CitationWindow::chooseName(const std::function<void()> &then)
 
 void CitationWindow::whenSaved(const std::function<void()> &then)
 {
-    if (!isWindowModified()) {
+    if (!isUnsaved()) {
         then();
         return;
     }
@@ -288,18 +289,29 @@ void CitationWindow::whenSaved(const std::function<void()> &then)
     });
 }
 
-void CitationWindow::closeEvent(QCloseEvent *event)
+bool CitationWindow::isUnsaved()
 {
     m_tokens->tokenizeText();
-    if (m_mayClose || !isWindowModified()) {
+    return isWindowModified();
+}
+
+void CitationWindow::closeWhenSaved(const std::function<void()> &then)
+{
+    whenSaved([this, then] {
+        setWindowModified(false);
+        close();
+        then();
+    });
+}
+
+void CitationWindow::closeEvent(QCloseEvent *event)
+{
+    if (!isUnsaved()) {
         QMainWindow::closeEvent(event);
         return;
     }
     event->ignore();
-    whenSaved([this] {
-        m_mayClose = true;
-        close();
-    });
+    closeWhenSaved([] {});
 }
 
 } // namespace Tavrin::Reader

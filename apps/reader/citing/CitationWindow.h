@@ -45,6 +45,11 @@ public:
     void open(const QString &path);
     /// False if it could not be written, which is told.
     bool save(const QString &path);
+    /// Whether changes would be lost, also those that are being typed.
+    bool isUnsaved();
+    /// Closes the window and goes on, after a question where changes would be lost: unless the user
+    /// keeps the window.
+    void closeWhenSaved(const std::function<void()> &then);
 
     /// All that the document cites, with the passage that does.
     ReferenceCoverage references() const;
@@ -87,7 +92,6 @@ private:
     QString m_path;
     int m_row = -1;
     bool m_isShowing = false;
-    bool m_mayClose = false;
 };
 
 } // namespace Tavrin::Reader

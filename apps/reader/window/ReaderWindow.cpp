@@ -4,6 +4,9 @@
 #include <QCloseEvent>
 #include <QSplitter>
 
+#include <algorithm>
+#include <functional>
+
 #include <Tavrin/platform/StringLocalizer.h>
 #include <reader/citing/AuditPresenter.h>
 #include <reader/citing/CitationWindow.h>
@@ -187,6 +190,15 @@ void ReaderWindow::updateEmptyStates()
 
 void ReaderWindow::closeEvent(QCloseEvent *event)
 {
+    // What would be lost is asked about while there is a window to stay in.
+    const auto forms = findChildren<CitationWindow *>(Qt::FindDirectChildrenOnly);
+    const auto unsaved =
+        std::find_if(forms.begin(), forms.end(), std::mem_fn(&CitationWindow::isUnsaved));
+    if (unsaved != forms.end()) {
+        event->ignore();
+        (*unsaved)->closeWhenSaved([this] { close(); });
+        return;
+    }
     m_state.store();
     QMainWindow::closeEvent(event);
 }
