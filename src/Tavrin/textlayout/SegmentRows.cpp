@@ -16,15 +16,15 @@ namespace
 constexpr float widestGap = 0.6f;
 /// Kerning goes back less than this; an accent set over a letter does not go behind its start.
 constexpr float furthestBack = 0.25f;
-constexpr float sameRowBaseline = 0.02f;
-constexpr float sameRowBaseline = 0.1f;
+constexpr float sameBaseline = 0.02f;
+constexpr float sameRowOfSegments = 0.1f;
 constexpr float sameSize = 0.03f;
 
 bool continues(const Segment &segment, const LayoutGlyph &last, const LayoutGlyph &glyph)
 {
     const float size = segment.size;
     return std::abs(glyph.size - size) <= sameSize * size &&
-           std::abs(glyph.baseline - segment.baseline) <= sameRowBaseline * size &&
+           std::abs(glyph.baseline - segment.baseline) <= sameBaseline * size &&
            glyph.start >= last.start - furthestBack * size &&
            glyph.start <= segment.end + widestGap * size;
 }
@@ -65,7 +65,7 @@ void SegmentRows::findRows()
     for (quint32 i = 0; i < m_order.size(); ++i) {
         Segment &segment = m_segments[m_order[i]];
         const float tolerance =
-            m_rows.empty() ? 0 : sameRowBaseline * std::min(m_rows.back().size, segment.size);
+            m_rows.empty() ? 0 : sameRowOfSegments * std::min(m_rows.back().size, segment.size);
         if (m_rows.empty() || m_rows.back().baseline - segment.baseline > tolerance)
             m_rows.push_back({segment.baseline, segment.size, i, 0});
         Row &row = m_rows.back();
