@@ -317,7 +317,7 @@ TEST_F(Browser, TellsAllFailuresOfAnImportAtOnce)
     ASSERT_THAT(alert(), NotNull());
     EXPECT_EQ(alert()->messageText(), u"Import Errors"_s);
     EXPECT_EQ(alert()->informativeText(),
-              unmatched(u"g.pdf"_s) + u"\n\n"_s + unmatched(u"broken.pdf"_s));
+              unmatched(u"g.pdf"_s) + u"\n\nbroken.pdf is not a PDF."_s);
     EXPECT_THAT(rows(), ElementsAre(u"The alpha (latest) | "_s)) << "the third got through";
     EXPECT_EQ(manager.auxiliaryFiles().size(), 1U);
     QTest::keyClick(alert(), Qt::Key_Escape);
