@@ -17,7 +17,7 @@ class SingleInstance : public QObject
 
 public:
     /// Longer arguments are not taken.
-    static constexpr qint64 lengthLimit = 64 * 1024;
+    static constexpr qint64 lengthLimit = 65536;
 
     /// The socket lies in the directory, which must be the user's alone. `name` parts displays from
     /// each other.
