@@ -16,6 +16,11 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
+ReaderArguments called(const QString &argument)
+{
+    return ReaderArguments::parse({u"tavrin-reader"_s, argument});
+}
+
 /// A reader that listens in a directory of its own, in which a crash has left a socket behind.
 class SingleInstanceTest : public testing::Test
 {
@@ -23,7 +28,7 @@ protected:
     SingleInstanceTest()
     {
         files.write(u"reader"_s, "");
-        EXPECT_FALSE(handOver({.reference = u"nobody"_s}));
+        EXPECT_FALSE(handOver(called(u"nobody"_s)));
         QObject::connect(
             &first, &SingleInstance::requested,
             [this](const ReaderArguments &arguments) { requests.push_back(arguments); });
@@ -65,19 +70,19 @@ TEST_F(SingleInstanceTest, TakesOverWhatLaterStartsAreCalledWith)
     const auto arguments = ReaderArguments::parse(
         {u"tavrin-reader"_s, u"--maps"_s, files.path(), u"spec://2.1/a%20b/*"_s});
     EXPECT_TRUE(handOver(arguments));
-    EXPECT_TRUE(handOver({.pdfs = {u"/ä b.pdf"_s}}));
+    EXPECT_TRUE(handOver(called(files.write(u"ä b.pdf"_s, "%PDF-").toLocalFile())));
     ASSERT_EQ(requests.size(), 2U);
     EXPECT_EQ(requests[0].maps, QStringList{files.path()});
     EXPECT_EQ(requests[0].reference, u"spec://2.1/a%20b/*"_s);
-    EXPECT_EQ(requests[1].pdfs, QStringList{u"/ä b.pdf"_s});
+    EXPECT_EQ(requests[1].pdfs, QStringList{files.path(u"ä b.pdf"_s)});
 }
 
 TEST_F(SingleInstanceTest, GoesOnWhateverStrangersSay)
 {
     EXPECT_TRUE(refuses("GET / HTTP/1.0\n"));
     EXPECT_TRUE(refuses(QByteArray(SingleInstance::lengthLimit + 1, 'x')));
-    EXPECT_FALSE(handOver({.reference = QString(SingleInstance::lengthLimit, u'x')}));
-    EXPECT_TRUE(handOver({.reference = u"4.2"_s}));
+    EXPECT_FALSE(handOver(called(QString(SingleInstance::lengthLimit, u'x'))));
+    EXPECT_TRUE(handOver(called(u"4.2"_s)));
     EXPECT_EQ(requests.size(), 1U);
 }
 
@@ -85,10 +90,7 @@ TEST_F(SingleInstanceTest, TellsFilesFromReferences)
 {
     const QUrl pdf = files.write(u"a b.pdf"_s, "%PDF-");
     files.write(u"maps/m.xml"_s, "<spec/>");
-    const auto parsed = [](const QString &argument) {
-        return ReaderArguments::parse({u"tavrin-reader"_s, argument});
-    };
-    EXPECT_EQ(parsed(pdf.toString(QUrl::FullyEncoded)).pdfs, QStringList{pdf.toLocalFile()});
-    EXPECT_EQ(parsed(files.path(u"maps/m.xml"_s)).maps, QStringList{files.path(u"maps"_s)});
-    EXPECT_EQ(parsed(u"none.pdf"_s).reference, u"none.pdf"_s);
+    EXPECT_EQ(called(pdf.toString(QUrl::FullyEncoded)).pdfs, QStringList{pdf.toLocalFile()});
+    EXPECT_EQ(called(files.path(u"maps/m.xml"_s)).maps, QStringList{files.path(u"maps"_s)});
+    EXPECT_EQ(called(u"none.pdf"_s).reference, u"none.pdf"_s);
 }
