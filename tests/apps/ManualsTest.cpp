@@ -73,8 +73,7 @@ TEST(Manuals, TellWhatHelpTells)
         const QString page = manual(u"man/man1/tavrin-%1.1"_s.arg(command)).remove(u'\\');
         const QString inBash =
             bashTable.section(u"    %1)\n"_s.arg(command), 1).section(u";;"_s, 0, 0);
-        const QString inZsh =
-            zsh.section(u"        %1)\n"_s.arg(command), 1).section(u";;"_s, 0, 0);
+        const QString inZsh = zsh.section(u"    %1)\n"_s.arg(command), 1).section(u";;"_s, 0, 0);
         const QString inFish = matches(fish, u"(.*_from %1'.*)$"_s.arg(command)).join(u'\n');
         const QStringList options =
             matches(runTavrin({command, u"--help"_s}).output, u"^  (?:-., )?--([a-z-]+)"_s);
