@@ -8,6 +8,7 @@
 #include <Tavrin/interface/clipboard/EntryClipboard.h>
 #include <Tavrin/interface/toolkit/Sheet.h>
 #include <Tavrin/platform/StringLocalizer.h>
+#include <Tavrin/platform/TavrinVersion.h>
 #include <reader/citing/AuditPresenter.h>
 #include <reader/files/ReaderLibrary.h>
 #include <reader/lookup/EntryPalette.h>
@@ -154,7 +155,7 @@ void ReaderMenus::addHelpMenu()
     menu.addAction(localized("&Shortcuts", "menu item"), keys(Command::ShowShortcuts), &m_window,
                    [this] { (new ShortcutsWindow(*m_window.menuBar(), m_window))->show(); });
     menu.addAction(localized("&About Tavrin", "menu item"), &m_window, [this] {
-        Sheet::showMessage(m_window, u"Tavrin %1"_s.arg(QStringLiteral(TAVRIN_VERSION)),
+        Sheet::showMessage(m_window, u"Tavrin %1"_s.arg(TavrinVersionString),
                            localized("Reads specifications that exist only as PDFs.", "about"));
     });
 }

@@ -225,7 +225,7 @@ void SpecificationManager::displayDetail(const ViewControllerPtr &detail)
 /// Specifications make views, and know no manager.
 void SpecificationManager::claim(const ViewControllerPtr &view)
 {
-    if (auto *factory = ViewControllerFactory::installed())
+    if (auto *factory = viewControllerFactory())
         factory->setManager(*view, *this);
 }
 
