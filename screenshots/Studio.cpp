@@ -3,11 +3,13 @@
 
 #include <QApplication>
 #include <QDir>
-#include <QScopeGuard>
+#include <QLabel>
+#include <QPainter>
 #include <QTest>
 #include <QTextStream>
 #include <QTranslator>
 
+#include <Tavrin/interface/detail/EntryHighlightPDFView.h>
 #include <Tavrin/platform/Translations.h>
 
 namespace Tavrin::Testing
@@ -21,19 +23,32 @@ namespace
 QPalette darkPalette()
 {
     QPalette palette(QColor(60, 62, 66), QColor(43, 45, 48));
-    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-        palette.setColor(QPalette::All, role, QColor(230, 230, 230));
+    const std::pair<QPalette::ColorRole, QColor> colors[] = {
+        {QPalette::WindowText, QColor(230, 230, 230)},
+        {QPalette::Text, QColor(230, 230, 230)},
+        {QPalette::ButtonText, QColor(230, 230, 230)},
+        {QPalette::Base, QColor(33, 34, 37)},
+        {QPalette::AlternateBase, QColor(38, 40, 43)},
+        {QPalette::ToolTipBase, QColor(60, 62, 66)},
+        {QPalette::ToolTipText, QColor(230, 230, 230)},
+        {QPalette::PlaceholderText, QColor(150, 152, 156)},
+        {QPalette::Link, QColor(100, 170, 255)},
+        {QPalette::Highlight, QColor(61, 125, 220)},
+        {QPalette::HighlightedText, Qt::white},
+    };
+    for (const auto &[role, color] : colors)
+        palette.setColor(QPalette::All, role, color);
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
         palette.setColor(QPalette::Disabled, role, QColor(125, 128, 132));
-    palette.setColor(QPalette::Base, QColor(33, 34, 37));
-    palette.setColor(QPalette::AlternateBase, QColor(38, 40, 43));
-    palette.setColor(QPalette::ToolTipBase, QColor(60, 62, 66));
-    palette.setColor(QPalette::ToolTipText, QColor(230, 230, 230));
-    palette.setColor(QPalette::PlaceholderText, QColor(150, 152, 156));
-    palette.setColor(QPalette::Link, QColor(100, 170, 255));
-    palette.setColor(QPalette::Highlight, QColor(61, 125, 220));
-    palette.setColor(QPalette::HighlightedText, Qt::white);
     return palette;
+}
+
+bool isDrawn(const QWidget &window)
+{
+    const auto views = window.findChildren<EntryHighlightPDFView *>();
+    return std::all_of(views.begin(), views.end(), [](const EntryHighlightPDFView *view) {
+        return !view->document() || (view->isFullyDrawn() && view->textOf(view->currentPage()));
+    });
 }
 
 } // namespace
@@ -42,8 +57,6 @@ Studio::Studio(QString folder, QString corpus)
     : m_folder(std::move(folder)), m_corpus(std::move(corpus))
 {
 }
-
-Studio::~Studio() = default;
 
 void Studio::takeAll(Pictures pictures)
 {
@@ -73,10 +86,25 @@ void Studio::takeIn(const QString &mode, Pictures pictures)
 
 void Studio::shoot(QWidget &window, const QString &name)
 {
+    waitFor([&window] { return isDrawn(window); });
     QTest::qWait(60);
     const QString path = QDir(m_folder).filePath(m_mode + u'/' + name + u".png"_s);
     if (!window.grab().save(path))
         QTextStream(stderr) << "screenshots: " << path << " could not be written\n";
+}
+
+void Studio::shoot(QWidget &window, const QString &name, QWidget &above)
+{
+    QTest::qWait(60);
+    QPixmap picture = window.grab();
+    QPainter painter(&picture);
+    painter.drawPixmap(window.mapFromGlobal(above.mapToGlobal(QPoint())), above.grab());
+    painter.end();
+    QLabel whole;
+    whole.setPixmap(picture);
+    whole.resize(window.size());
+    whole.show();
+    shoot(whole, name);
 }
 
 bool Studio::waitFor(const std::function<bool()> &condition)
@@ -93,13 +121,13 @@ QString Studio::document(const QString &name) const
     return QDir(m_corpus).filePath(name);
 }
 
-std::shared_ptr<Specification> Studio::bindSample(SpecificationManager &manager,
-                                                  const QString &name) const
+std::shared_ptr<PDFSpecification> Studio::bindSample(SpecificationManager &manager) const
 {
     const QDir samples(QStringLiteral(TAVRIN_SAMPLES));
-    manager.registerSpecification(QUrl::fromLocalFile(samples.filePath(name + u".xml"_s)),
+    manager.registerSpecification(QUrl::fromLocalFile(samples.filePath(u"slepc.xml"_s)),
                                   QUrl::fromLocalFile(samples.filePath(u"spec.dtd"_s)));
-    return manager.bindAuxiliaryFile(QUrl::fromLocalFile(document(name + u".pdf"_s)));
+    return std::dynamic_pointer_cast<PDFSpecification>(
+        manager.bindAuxiliaryFile(QUrl::fromLocalFile(document(u"slepc.pdf"_s))));
 }
 
 } // namespace Tavrin::Testing

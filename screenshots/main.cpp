@@ -6,7 +6,6 @@
 #include <QTemporaryDir>
 #include <QTextStream>
 
-#include "Pictures.h"
 #include "Studio.h"
 
 using namespace Tavrin::Testing;
@@ -14,22 +13,11 @@ using namespace Tavrin::Testing;
 namespace
 {
 
-struct Set {
-    const char *name;
-    Studio::Pictures pictures;
-};
-
-// In the order of the windows' names.
-constexpr Set sets[] = {
+const std::pair<const char *, Studio::Pictures> sets[] = {
     {"audit", takeAuditPictures},     {"citing", takeCitingPictures},
-    {"citing", takeCitingPictures},   {"detail", takeDetailPictures},
-    {"detail", takeDetailPictures},   {"detail", takeDetailPictures},
-    {"files", takeFilesPictures},     {"files", takeFilesPictures},
-    {"files", takeFilesPictures},     {"sidebar", takeSidebarPictures},
+    {"detail", takeDetailPictures},   {"files", takeFilesPictures},
     {"reader", takeReaderPictures},   {"sidebar", takeSidebarPictures},
-    {"sidebar", takeSidebarPictures}, {"summary", takeSummaryPictures},
-    {"summary", takeSummaryPictures}, {"summary", takeSummaryPictures},
-    {"viewer", takeViewerPictures},   {"viewer", takeViewerPictures},
+    {"summary", takeSummaryPictures}, {"viewer", takeViewerPictures},
 };
 
 } // namespace
@@ -50,9 +38,9 @@ int main(int argc, char *argv[])
     }
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     Studio studio(arguments[1], arguments[2]);
-    for (const Set &set : sets) {
-        if (arguments.size() == 3 || arguments.contains(QLatin1String(set.name)))
-            studio.takeAll(set.pictures);
+    for (const auto &[window, pictures] : sets) {
+        if (arguments.size() == 3 || arguments.contains(QLatin1String(window)))
+            studio.takeAll(pictures);
     }
     return 0;
 }
