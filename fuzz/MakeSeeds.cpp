@@ -44,15 +44,18 @@ QByteArray everyDestination()
         .text(72, 600, u"4.1 Scope"_s)
         .cropBox({{0, 20}, {400, 600}});
     pdf.addPage()
-        .link({{72, 700}, {100, 12}}, Dest::fitH(0, 600))
+        .link({{72, 700}, {100, 12}}, Dest::fitting(0, "FitH", {600}))
         .actionLink({{72, 680}, {100, 12}}, Dest::named("table.1"))
         .uriLink({{72, 660}, {100, 12}}, "https://tavrin.example/")
         .note({{72, 640}, {10, 10}}, u"a note"_s);
-    pdf.outline({{u"Scope"_s, Dest::xyz(0, 72, 600), {{u"Inner"_s, Dest::fitR(1, 1, 2, 3, 4)}}},
+    pdf.outline({{u"Scope"_s,
+                  Dest::xyz(0, 72, 600),
+                  {{u"Inner"_s, Dest::fitting(1, "FitR", {1, 2, 3, 4})}}},
                  {u"Terms"_s, Dest::named("table.1"), {}, OutlineItem::Target::GoToAction}});
     pdf.namedDestination("table.1", Dest::xyz(1, 72, 700, 0));
-    pdf.namedDestination("bare", Dest::fitBV(1, 10), NameForm::BareArray);
-    pdf.namedDestination("old", Dest::fit(0), NameForm::BareArray, NameListing::CatalogDictionary);
+    pdf.namedDestination("bare", Dest::fitting(1, "FitBV", {10}), NameForm::BareArray);
+    pdf.namedDestination("old", Dest::fitting(0, "Fit"), NameForm::BareArray,
+                         NameListing::CatalogDictionary);
     pdf.namesPerLeaf(1);
     pdf.pagesPerNode(1);
     return pdf.build();

@@ -6,8 +6,6 @@
 namespace Tavrin::Testing
 {
 
-using namespace Qt::StringLiterals;
-
 namespace
 {
 
@@ -52,7 +50,7 @@ PDFBuilder DraftedManual::manual()
                             {u"Things to do last"_s, Dest::xyz(number, 72, 405)}}});
     }
     pdf.outline(outline);
-    pdf.namedDestination("start", Dest::fit(1));
+    pdf.namedDestination("start", Dest::fitting(1, "Fit"));
     return pdf;
 }
 

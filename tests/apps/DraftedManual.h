@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <gtest/gtest.h>
+#include <support/Test.h>
 
 #include <optional>
 
@@ -23,8 +23,8 @@ protected:
 
     static PDFBuilder manual();
     static const TemporaryFiles &files() { return *s_files; }
-    static QString pdf() { return files().path(QStringLiteral("manual.pdf")); }
-    static QString map() { return files().path(QStringLiteral("maps/manual.xml")); }
+    static QString pdf() { return files().path(u"manual.pdf"_s); }
+    static QString map() { return files().path(u"maps/manual.xml"_s); }
 
     /// Runs a command on the map, and on the PDF too.
     static ProgramRun runWithMap(const QString &command, const QStringList &arguments);

@@ -1,10 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "PDFFixture.h"
 
-using namespace Tavrin;
-using namespace Tavrin::Testing;
-using namespace Qt::StringLiterals;
-
 namespace
 {
 
@@ -32,7 +28,7 @@ TEST_F(Destinations, StrictReadsXYZDictionariesOfTheNameTreeAlone)
     pdf.namedDestination("a", Dest::xyz(1, 100, 200));
     pdf.namedDestination("b", Dest::xyz(1, {}, 700, 0));
     pdf.namedDestination("bare", Dest::xyz(1, 1, 2), NameForm::BareArray);
-    pdf.namedDestination("fit", Dest::fitH(1, 300));
+    pdf.namedDestination("fit", Dest::fitting(1, "FitH", {300}));
     pdf.namedDestination("few", Dest::raw("[0 /XYZ 1]"));
     const auto specification = load();
     EXPECT_EQ(named(specification, u"a"_s), (Place{1, {100, 200}}));
@@ -49,11 +45,11 @@ TEST_F(Destinations, CommonReadsWhatProducersWrite)
 {
     pdf.namedDestination("bare", Dest::xyz(1, 1, 2), NameForm::BareArray);
     pdf.namedDestination("null", Dest::xyz(1, {}, 500));
-    pdf.namedDestination("fit", Dest::fit(1));
-    pdf.namedDestination("fith", Dest::fitH(1, 300));
-    pdf.namedDestination("fitv", Dest::fitV(1, 55));
-    pdf.namedDestination("fitr", Dest::fitR(1, 30, 40, 50, 60));
-    pdf.namedDestination("fitbh", Dest::fitBH(1, {}));
+    pdf.namedDestination("fit", Dest::fitting(1, "Fit"));
+    pdf.namedDestination("fith", Dest::fitting(1, "FitH", {300}));
+    pdf.namedDestination("fitv", Dest::fitting(1, "FitV", {55}));
+    pdf.namedDestination("fitr", Dest::fitting(1, "FitR", {30, 40, 50, 60}));
+    pdf.namedDestination("fitbh", Dest::fitting(1, "FitBH", {std::nullopt}));
     pdf.namedDestination("number", Dest::raw("[1 /XYZ 7 8 0]"));
     pdf.namedDestination("gone", Dest::raw("[99 /XYZ 7 8 0]"));
     pdf.namedDestination("old", Dest::xyz(0, 3, 4), NameForm::BareArray,

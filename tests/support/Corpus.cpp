@@ -31,4 +31,18 @@ std::optional<QString> truthFile(const QString &name)
     return fileIn("TAVRIN_TRUTH", name);
 }
 
+std::shared_ptr<PDFSpecification> bindCorpusSample(SpecificationManager &manager,
+                                                   const QString &name)
+{
+    const auto document = corpusFile(name + QStringLiteral(".pdf"));
+    if (!document)
+        return nullptr;
+    const QDir samples(QStringLiteral(TAVRIN_SAMPLES));
+    manager.registerSpecification(
+        QUrl::fromLocalFile(samples.filePath(name + QStringLiteral(".xml"))),
+        QUrl::fromLocalFile(samples.filePath(QStringLiteral("spec.dtd"))));
+    return std::dynamic_pointer_cast<PDFSpecification>(
+        manager.bindAuxiliaryFile(QUrl::fromLocalFile(*document)));
+}
+
 } // namespace Tavrin::Testing

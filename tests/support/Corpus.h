@@ -3,7 +3,11 @@
 
 #include <QString>
 
+#include <memory>
 #include <optional>
+
+#include <Tavrin/manager/SpecificationManager.h>
+#include <Tavrin/pdfspec/PDFSpecification.h>
 
 namespace Tavrin::Testing
 {
@@ -17,6 +21,10 @@ std::optional<QString> corpusFile(const QString &name);
 
 /// The same for the tables of what the documents really hold, which TAVRIN_TRUTH names.
 std::optional<QString> truthFile(const QString &name);
+
+/// A sample, such as "slepc", registered and bound to its document; null where that is not there.
+std::shared_ptr<PDFSpecification> bindCorpusSample(SpecificationManager &manager,
+                                                   const QString &name);
 
 inline constexpr char noCorpus[] =
     "TAVRIN_CORPUS is not set, or lacks the document; scripts/corpus fetches the documents";

@@ -6,56 +6,6 @@
 namespace Tavrin::Testing
 {
 
-Dest Dest::xyz(int page, Coordinate x, Coordinate y, Coordinate zoom)
-{
-    return explicitArray(page, "XYZ", {x, y, zoom});
-}
-
-Dest Dest::fit(int page)
-{
-    return explicitArray(page, "Fit", {});
-}
-
-Dest Dest::fitH(int page, Coordinate top)
-{
-    return explicitArray(page, "FitH", {top});
-}
-
-Dest Dest::fitV(int page, Coordinate left)
-{
-    return explicitArray(page, "FitV", {left});
-}
-
-Dest Dest::fitR(int page, Coordinate left, Coordinate bottom, Coordinate right, Coordinate top)
-{
-    return explicitArray(page, "FitR", {left, bottom, right, top});
-}
-
-Dest Dest::fitB(int page)
-{
-    return explicitArray(page, "FitB", {});
-}
-
-Dest Dest::fitBH(int page, Coordinate top)
-{
-    return explicitArray(page, "FitBH", {top});
-}
-
-Dest Dest::fitBV(int page, Coordinate left)
-{
-    return explicitArray(page, "FitBV", {left});
-}
-
-Dest Dest::named(const QByteArray &name)
-{
-    return raw(PDFSource::string(name));
-}
-
-Dest Dest::namedByNameObject(const QByteArray &name)
-{
-    return raw(PDFSource::name(name));
-}
-
 Dest Dest::raw(const QByteArray &source)
 {
     Dest dest;

@@ -6,6 +6,8 @@
 #include <optional>
 #include <vector>
 
+#include <support/PDFSource.h>
+
 namespace Tavrin::Testing
 {
 
@@ -17,20 +19,20 @@ class Dest
 public:
     using Coordinate = std::optional<double>;
 
-    static Dest xyz(int page, Coordinate x, Coordinate y, Coordinate zoom = {});
-    static Dest fit(int page);
-    static Dest fitH(int page, Coordinate top);
-    static Dest fitV(int page, Coordinate left);
-    static Dest fitR(int page, Coordinate left, Coordinate bottom, Coordinate right,
-                     Coordinate top);
-    static Dest fitB(int page);
-    static Dest fitBH(int page, Coordinate top);
-    static Dest fitBV(int page, Coordinate left);
+    static Dest xyz(int page, Coordinate x, Coordinate y, Coordinate zoom = {})
+    {
+        return explicitArray(page, "XYZ", {x, y, zoom});
+    }
+    /// By any of the other modes: "Fit", "FitH".
+    static Dest fitting(int page, const char *mode, const std::vector<Coordinate> &numbers = {})
+    {
+        return explicitArray(page, mode, numbers);
+    }
 
     /// Refers to a named destination by a string, which the name tree resolves.
-    static Dest named(const QByteArray &name);
+    static Dest named(const QByteArray &name) { return raw(PDFSource::string(name)); }
     /// Refers by a name object, which the catalog's dictionary resolves.
-    static Dest namedByNameObject(const QByteArray &name);
+    static Dest namedByNameObject(const QByteArray &name) { return raw(PDFSource::name(name)); }
     /// Any object at all.
     static Dest raw(const QByteArray &source);
 

@@ -9,6 +9,8 @@
 namespace Tavrin::Testing
 {
 
+using namespace Qt::StringLiterals;
+
 namespace
 {
 
@@ -21,18 +23,18 @@ void writeOptional(QXmlStreamWriter &xml, const QString &element,
 
 void writeEntry(QXmlStreamWriter &xml, const MapEntry &entry)
 {
-    xml.writeStartElement(QStringLiteral("entry"));
-    xml.writeAttribute(QStringLiteral("label"), entry.label);
-    xml.writeAttribute(QStringLiteral("type"), entry.type);
-    writeOptional(xml, QStringLiteral("index"), entry.index);
-    writeOptional(xml, QStringLiteral("name"), entry.name);
+    xml.writeStartElement(u"entry"_s);
+    xml.writeAttribute(u"label"_s, entry.label);
+    xml.writeAttribute(u"type"_s, entry.type);
+    writeOptional(xml, u"index"_s, entry.index);
+    writeOptional(xml, u"name"_s, entry.name);
     if (!entry.keywords.isEmpty())
-        xml.writeTextElement(QStringLiteral("keywords"), entry.keywords.join(QLatin1Char(',')));
-    writeOptional(xml, QStringLiteral("internal"), entry.internal);
+        xml.writeTextElement(u"keywords"_s, entry.keywords.join(QLatin1Char(',')));
+    writeOptional(xml, u"internal"_s, entry.internal);
     if (!entry.related.isEmpty()) {
-        xml.writeStartElement(QStringLiteral("related"));
+        xml.writeStartElement(u"related"_s);
         for (const QString &label : entry.related)
-            xml.writeTextElement(QStringLiteral("item"), label);
+            xml.writeTextElement(u"item"_s, label);
         xml.writeEndElement();
     }
     xml.writeEndElement();
@@ -42,34 +44,9 @@ void writeEntry(QXmlStreamWriter &xml, const MapEntry &entry)
 
 MapBuilder::MapBuilder(const QString &identifier, const QString &revision) : m_title(identifier)
 {
-    attribute(QStringLiteral("id"), identifier);
+    attribute(u"id"_s, identifier);
     if (!revision.isEmpty())
-        attribute(QStringLiteral("revision"), revision);
-}
-
-MapBuilder &MapBuilder::attribute(const QString &name, const QString &value)
-{
-    m_attributes[name] = value;
-    return *this;
-}
-
-MapBuilder &MapBuilder::title(const QString &title, const QString &shortTitle)
-{
-    m_title = title;
-    m_shortTitle = shortTitle;
-    return *this;
-}
-
-MapBuilder &MapBuilder::file(const QString &type, const QString &verifier, const QString &readInfo)
-{
-    m_files.push_back({type, verifier, readInfo});
-    return *this;
-}
-
-MapBuilder &MapBuilder::entry(const MapEntry &entry)
-{
-    m_entries.push_back(entry);
-    return *this;
+        attribute(u"revision"_s, revision);
 }
 
 QByteArray MapBuilder::xml() const
@@ -77,22 +54,22 @@ QByteArray MapBuilder::xml() const
     QByteArray bytes;
     QXmlStreamWriter xml(&bytes);
     xml.writeStartDocument();
-    xml.writeStartElement(QStringLiteral("spec"));
+    xml.writeStartElement(u"spec"_s);
     for (const auto &[name, value] : m_attributes)
         xml.writeAttribute(name, value);
-    xml.writeStartElement(QStringLiteral("auxfiles"));
+    xml.writeStartElement(u"auxfiles"_s);
     for (const File &file : m_files) {
-        xml.writeEmptyElement(QStringLiteral("file"));
-        xml.writeAttribute(QStringLiteral("type"), file.type);
-        xml.writeAttribute(QStringLiteral("verifier"), file.verifier);
+        xml.writeEmptyElement(u"file"_s);
+        xml.writeAttribute(u"type"_s, file.type);
+        xml.writeAttribute(u"verifier"_s, file.verifier);
         if (!file.readInfo.isEmpty())
-            xml.writeAttribute(QStringLiteral("read-info"), file.readInfo);
+            xml.writeAttribute(u"read-info"_s, file.readInfo);
     }
     xml.writeEndElement();
-    xml.writeTextElement(QStringLiteral("name"), m_title);
+    xml.writeTextElement(u"name"_s, m_title);
     if (!m_shortTitle.isEmpty())
-        xml.writeTextElement(QStringLiteral("shortname"), m_shortTitle);
-    xml.writeStartElement(QStringLiteral("toc"));
+        xml.writeTextElement(u"shortname"_s, m_shortTitle);
+    xml.writeStartElement(u"toc"_s);
     for (const MapEntry &entry : m_entries)
         writeEntry(xml, entry);
     xml.writeEndDocument();
@@ -101,7 +78,7 @@ QByteArray MapBuilder::xml() const
 
 QUrl MapBuilder::write(const TemporaryFiles &files, const QString &name) const
 {
-    files.write(QStringLiteral("spec.dtd"), grammar());
+    files.write(u"spec.dtd"_s, grammar());
     return files.write(name, xml());
 }
 

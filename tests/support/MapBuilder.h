@@ -33,10 +33,27 @@ public:
     explicit MapBuilder(const QString &identifier, const QString &revision = {});
 
     /// An attribute of the root element, in place of one set before.
-    MapBuilder &attribute(const QString &name, const QString &value);
-    MapBuilder &title(const QString &title, const QString &shortTitle = {});
-    MapBuilder &file(const QString &type, const QString &verifier, const QString &readInfo = {});
-    MapBuilder &entry(const MapEntry &entry);
+    MapBuilder &attribute(const QString &name, const QString &value)
+    {
+        m_attributes[name] = value;
+        return *this;
+    }
+    MapBuilder &title(const QString &title, const QString &shortTitle = {})
+    {
+        m_title = title;
+        m_shortTitle = shortTitle;
+        return *this;
+    }
+    MapBuilder &file(const QString &type, const QString &verifier, const QString &readInfo = {})
+    {
+        m_files.push_back({type, verifier, readInfo});
+        return *this;
+    }
+    MapBuilder &entry(const MapEntry &entry)
+    {
+        m_entries.push_back(entry);
+        return *this;
+    }
 
     QByteArray xml() const;
 

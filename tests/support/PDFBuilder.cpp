@@ -6,24 +6,10 @@
 #include <QStandardPaths>
 #include <QTemporaryDir>
 
-#include <support/PDFSource.h>
 #include <support/PDFWriter.h>
 
 namespace Tavrin::Testing
 {
-
-// Object 0 is the head of the list of free objects.
-PDFBuilder::PDFBuilder() : m_objects(1) {}
-
-PDFPageBuilder &PDFBuilder::addPageWithBox(const Rect &mediaBox)
-{
-    return addPageWithoutBox().entry("MediaBox", PDFSource::rectangle(mediaBox));
-}
-
-PDFPageBuilder &PDFBuilder::addPage(const Size &size)
-{
-    return addPageWithBox({{0, 0}, size});
-}
 
 PDFPageBuilder &PDFBuilder::addPageWithoutBox()
 {
@@ -31,21 +17,11 @@ PDFPageBuilder &PDFBuilder::addPageWithoutBox()
     return m_pages.emplace_back();
 }
 
-void PDFBuilder::inherited(const QByteArray &key, const QByteArray &source)
-{
-    m_inherited[key] = source;
-}
-
 void PDFBuilder::namedDestination(const QByteArray &name, const Dest &dest, NameForm form,
                                   NameListing listing)
 {
     auto &names = listing == NameListing::NameTree ? m_names : m_catalogNames;
     names.insert_or_assign(name, NamedDestination{dest, form});
-}
-
-void PDFBuilder::info(const QByteArray &key, const QString &text)
-{
-    m_info[key] = PDFSource::textString(text);
 }
 
 int PDFBuilder::addObject(const QByteArray &source)
@@ -57,21 +33,6 @@ int PDFBuilder::addObject(const QByteArray &source)
 int PDFBuilder::addStream(const QByteArray &dictionaryEntries, const QByteArray &data)
 {
     return addObject(PDFWriter::stream(dictionaryEntries, data));
-}
-
-void PDFBuilder::setObject(int number, const QByteArray &source)
-{
-    m_objects.at(std::size_t(number)) = source;
-}
-
-void PDFBuilder::catalogEntry(const QByteArray &key, const QByteArray &source)
-{
-    m_catalog[key] = source;
-}
-
-void PDFBuilder::trailerEntry(const QByteArray &key, const QByteArray &source)
-{
-    m_trailer[key] = source;
 }
 
 QByteArray PDFBuilder::build() const

@@ -11,6 +11,7 @@
 
 #include <support/Dest.h>
 #include <support/PDFPageBuilder.h>
+#include <support/PDFSource.h>
 
 namespace Tavrin::Testing
 {
@@ -36,15 +37,19 @@ enum class NameForm { Dictionary, BareArray };
 class PDFBuilder
 {
 public:
-    PDFBuilder();
-
     /// The reference stays valid while pages are added. A page without a size of its own takes
     /// what inherited() sets.
-    PDFPageBuilder &addPageWithBox(const Rect &mediaBox);
-    PDFPageBuilder &addPage(const Size &size = {612, 792});
+    PDFPageBuilder &addPageWithBox(const Rect &mediaBox)
+    {
+        return addPageWithoutBox().entry("MediaBox", PDFSource::rectangle(mediaBox));
+    }
+    PDFPageBuilder &addPage(const Size &size = {612, 792})
+    {
+        return addPageWithBox({{0, 0}, size});
+    }
     PDFPageBuilder &addPageWithoutBox();
     /// Sets an entry of the root of the page tree: "MediaBox", "Rotate".
-    void inherited(const QByteArray &key, const QByteArray &source);
+    void inherited(const QByteArray &key, const QByteArray &source) { m_inherited[key] = source; }
     /// Puts this many pages under an inner node each; 0 keeps the tree flat.
     void pagesPerNode(int count) { m_pagesPerNode = count; }
 
@@ -56,7 +61,10 @@ public:
     void namesPerLeaf(int count) { m_namesPerLeaf = count; }
 
     /// An entry of the document information, such as "Title".
-    void info(const QByteArray &key, const QString &text);
+    void info(const QByteArray &key, const QString &text)
+    {
+        m_info[key] = PDFSource::textString(text);
+    }
     /// The source of a label dictionary, which counts from this page on: "<< /S /r >>".
     void pageLabels(int firstPage, const QByteArray &source) { m_labels[firstPage] = source; }
 
@@ -64,10 +72,13 @@ public:
     int addObject(const QByteArray &source);
     int addStream(const QByteArray &dictionaryEntries, const QByteArray &data);
     /// Replaces an object; those of pages and the catalog are written after and win.
-    void setObject(int number, const QByteArray &source);
+    void setObject(int number, const QByteArray &source)
+    {
+        m_objects.at(std::size_t(number)) = source;
+    }
     int pageObject(int page) const { return m_pageObjects.at(std::size_t(page)); }
-    void catalogEntry(const QByteArray &key, const QByteArray &source);
-    void trailerEntry(const QByteArray &key, const QByteArray &source);
+    void catalogEntry(const QByteArray &key, const QByteArray &source) { m_catalog[key] = source; }
+    void trailerEntry(const QByteArray &key, const QByteArray &source) { m_trailer[key] = source; }
 
     QByteArray build() const;
 
@@ -80,7 +91,8 @@ private:
         NameForm form;
     };
 
-    std::vector<QByteArray> m_objects;
+    /// The first is the head of the list of free objects.
+    std::vector<QByteArray> m_objects = std::vector<QByteArray>(1);
     std::deque<PDFPageBuilder> m_pages;
     std::vector<int> m_pageObjects;
     std::vector<OutlineItem> m_outline;

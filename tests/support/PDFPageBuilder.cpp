@@ -33,16 +33,6 @@ QByteArray corners(const Rect &rect)
 
 } // namespace
 
-PDFPageBuilder &PDFPageBuilder::cropBox(const Rect &box)
-{
-    return entry("CropBox", PDFSource::rectangle(box));
-}
-
-PDFPageBuilder &PDFPageBuilder::rotate(int degrees)
-{
-    return entry("Rotate", QByteArray::number(degrees));
-}
-
 void PDFPageBuilder::beginText(double x, double y, const TextStyle &style)
 {
     m_fonts.insert(style.font);
@@ -113,28 +103,6 @@ PDFPageBuilder &PDFPageBuilder::addAnnotation(const Rect &rect, const char *subt
                              PDFSource::rectangle(rect) + " /Border [0 0 0] ";
     m_annotations.push_back({start + before, dest, after + " >>"});
     return *this;
-}
-
-PDFPageBuilder &PDFPageBuilder::link(const Rect &rect, const Dest &dest)
-{
-    return addAnnotation(rect, "Link", "/Dest ", dest, {});
-}
-
-PDFPageBuilder &PDFPageBuilder::actionLink(const Rect &rect, const Dest &dest)
-{
-    return addAnnotation(rect, "Link", "/A << /S /GoTo /D ", dest, " >>");
-}
-
-PDFPageBuilder &PDFPageBuilder::uriLink(const Rect &rect, const QByteArray &uri)
-{
-    return addAnnotation(rect, "Link", "/A << /S /URI /URI ", Dest::raw(PDFSource::string(uri)),
-                         " >>");
-}
-
-PDFPageBuilder &PDFPageBuilder::note(const Rect &rect, const QString &contents)
-{
-    return addAnnotation(rect, "Text", "/Contents ", Dest::raw(PDFSource::textString(contents)),
-                         {});
 }
 
 PDFPageBuilder &PDFPageBuilder::annotation(const QByteArray &source)

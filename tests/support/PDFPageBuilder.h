@@ -13,6 +13,7 @@
 
 #include <Tavrin/platform/Geometry.h>
 #include <support/Dest.h>
+#include <support/PDFSource.h>
 
 namespace Tavrin::Testing
 {
@@ -56,8 +57,8 @@ struct TextPiece {
 class PDFPageBuilder
 {
 public:
-    PDFPageBuilder &cropBox(const Rect &box);
-    PDFPageBuilder &rotate(int degrees);
+    PDFPageBuilder &cropBox(const Rect &box) { return entry("CropBox", PDFSource::rectangle(box)); }
+    PDFPageBuilder &rotate(int degrees) { return entry("Rotate", QByteArray::number(degrees)); }
 
     PDFPageBuilder &text(double x, double y, const QString &text, const TextStyle &style = {});
     /// One showing of text with gaps that carry no space character.
@@ -74,10 +75,24 @@ public:
     PDFPageBuilder &operators(const QByteArray &source);
 
     /// A link with its destination in "Dest", or in a GoTo action.
-    PDFPageBuilder &link(const Rect &rect, const Dest &dest);
-    PDFPageBuilder &actionLink(const Rect &rect, const Dest &dest);
-    PDFPageBuilder &uriLink(const Rect &rect, const QByteArray &uri);
-    PDFPageBuilder &note(const Rect &rect, const QString &contents);
+    PDFPageBuilder &link(const Rect &rect, const Dest &dest)
+    {
+        return addAnnotation(rect, "Link", "/Dest ", dest, {});
+    }
+    PDFPageBuilder &actionLink(const Rect &rect, const Dest &dest)
+    {
+        return addAnnotation(rect, "Link", "/A << /S /GoTo /D ", dest, " >>");
+    }
+    PDFPageBuilder &uriLink(const Rect &rect, const QByteArray &uri)
+    {
+        return addAnnotation(rect, "Link", "/A << /S /URI /URI ", Dest::raw(PDFSource::string(uri)),
+                             " >>");
+    }
+    PDFPageBuilder &note(const Rect &rect, const QString &contents)
+    {
+        return addAnnotation(rect, "Text", "/Contents ", Dest::raw(PDFSource::textString(contents)),
+                             {});
+    }
     /// Any annotation, by the source of its dictionary.
     PDFPageBuilder &annotation(const QByteArray &source);
 

@@ -14,16 +14,21 @@ namespace Tavrin::Testing
 class StandardErrorCapture
 {
 public:
-    StandardErrorCapture();
-
-    QStringList messages() const;
+    QStringList messages() const
+    {
+        const std::lock_guard lock(m_mutex);
+        return m_messages;
+    }
     /// All messages, a line each.
-    QString text() const;
+    QString text() const { return messages().join(u'\n'); }
 
 private:
     mutable std::mutex m_mutex;
     QStringList m_messages;
-    StandardErrorRedirection m_redirection;
+    StandardErrorRedirection m_redirection{[this](const QString &message) {
+        const std::lock_guard lock(m_mutex);
+        m_messages.append(message);
+    }};
 };
 
 } // namespace Tavrin::Testing

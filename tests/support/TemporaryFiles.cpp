@@ -43,14 +43,4 @@ QByteArray TemporaryFiles::read(const QString &name) const
     return file.readAll();
 }
 
-QString TemporaryFiles::path(const QString &name) const
-{
-    return name.isEmpty() ? m_folder.path() : m_folder.filePath(name);
-}
-
-QUrl TemporaryFiles::url(const QString &name) const
-{
-    return QUrl::fromLocalFile(path(name));
-}
-
 } // namespace Tavrin::Testing

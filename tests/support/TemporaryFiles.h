@@ -19,8 +19,11 @@ public:
     /// Writes a file, with the folders on its way, and says where it is.
     QUrl write(const QString &name, const QByteArray &content) const;
     QByteArray read(const QString &name) const;
-    QString path(const QString &name = {}) const;
-    QUrl url(const QString &name = {}) const;
+    QString path(const QString &name = {}) const
+    {
+        return name.isEmpty() ? m_folder.path() : m_folder.filePath(name);
+    }
+    QUrl url(const QString &name = {}) const { return QUrl::fromLocalFile(path(name)); }
 
 private:
     QTemporaryDir m_folder;
