@@ -1,13 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
-#include <gmock/gmock.h>
+#include <support/Test.h>
 
 #include <Tavrin/drafting/BodyColumnMeasurer.h>
 
 #include "PrintedSketch.h"
-
-using namespace Tavrin;
-using namespace Tavrin::Testing;
-using namespace Qt::StringLiterals;
 
 namespace
 {

@@ -1,16 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "PrintedSketch.h"
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
+#include <support/Test.h>
 
 #include <Tavrin/drafting/CaptionScanner.h>
-
-using namespace Tavrin;
-using namespace Tavrin::Testing;
-using namespace Qt::StringLiterals;
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 namespace
 {
@@ -34,29 +27,7 @@ std::vector<std::string> captions(const std::vector<Page> &additions, const QSet
     return result;
 }
 
-std::string parsed(const QString &text)
-{
-    const auto number = CaptionNumber::parse(text);
-    return number
-               ? (number->label + u'|' + number->number.text() + u'|' + text.sliced(number->length))
-                     .toStdString()
-               : "none";
-}
-
 } // namespace
-
-TEST(CaptionNumber, isReadInAllItsForms)
-{
-    EXPECT_EQ(parsed(u"Figure 3-7: Bus cycles"_s), "Figure 3-7|3.7|Bus cycles");
-    EXPECT_EQ(parsed(u"Table 2.1. Pins"_s), "Table 2.1|2.1|Pins");
-    EXPECT_EQ(parsed(u"Fig. 4 Overview"_s), "Figure 4|4|Overview");
-    EXPECT_EQ(parsed(u"TABLE A.3 \u2013 Codes"_s), "Table A.3|A.3|Codes");
-    EXPECT_EQ(parsed(u"Table IV"_s), "Table IV|4|");
-    EXPECT_EQ(parsed(u"Figure B-2: x"_s), "Figure B-2|B.2|x");
-    for (const QString &text : {u"Figures 3 and 4"_s, u"Table of contents"_s, u"Figure 3)"_s,
-                                u"Table 3%"_s, u"figure 3: x"_s, u"See Figure 3: x"_s, u"Figure"_s})
-        EXPECT_EQ(parsed(text), "none") << text.toStdString();
-}
 
 TEST(CaptionScanner, findsCaptionsWithTheirTitles)
 {

@@ -1,16 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
-#include <gmock/gmock.h>
 #include <support/Corpus.h>
+#include <support/Test.h>
 
 #include <QFile>
 #include <QUrl>
 
 #include <Tavrin/drafting/MapDrafter.h>
 #include <Tavrin/drafting/TextKey.h>
-
-using namespace Tavrin;
-using namespace Tavrin::Testing;
-using namespace Qt::StringLiterals;
 
 namespace
 {

@@ -1,14 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
-#include <gmock/gmock.h>
+#include <support/Test.h>
 
 #include <Tavrin/drafting/HeadingFinder.h>
 #include <Tavrin/drafting/OutlineReader.h>
 
 #include "PrintedSketch.h"
-
-using namespace Tavrin;
-using namespace Tavrin::Testing;
-using namespace Qt::StringLiterals;
 
 namespace
 {

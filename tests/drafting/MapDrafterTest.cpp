@@ -1,18 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
-#include <gmock/gmock.h>
 #include <support/HostilePDF.h>
 #include <support/PDFBuilder.h>
+#include <support/Test.h>
 
 #include <QElapsedTimer>
 
 #include <Tavrin/drafting/MapDrafter.h>
 #include <Tavrin/pdfspec/PDFSpecificationEntry.h>
-
-using namespace Tavrin;
-using namespace Tavrin::Testing;
-using namespace Qt::StringLiterals;
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 namespace
 {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include <gmock/gmock.h>
+#include <support/Test.h>
 
 #include <QRandomGenerator>
 
@@ -7,7 +7,6 @@
 
 #include <Tavrin/drafting/NumberedSequence.h>
 
-using namespace Tavrin;
 using NumberedSequence::Member;
 
 namespace

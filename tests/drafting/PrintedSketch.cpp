@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "PrintedSketch.h"
 
-#include <QRandomGenerator>
+#include <support/Test.h>
 
-using namespace Qt::StringLiterals;
+#include <QRandomGenerator>
 
 namespace Tavrin::Testing
 {
