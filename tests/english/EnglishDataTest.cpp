@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
+#include <support/Test.h>
 
 #include <QDir>
 #include <QFile>
@@ -11,10 +10,7 @@
 #include <Tavrin/english/EnglishModel.h>
 #include <Tavrin/platform/LinguisticTagger.h>
 
-using namespace Tavrin;
 using namespace Tavrin::English;
-using namespace Qt::StringLiterals;
-using testing::HasSubstr;
 
 namespace
 {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include <gtest/gtest.h>
+#include <support/Test.h>
 
 #include <Tavrin/english/Lemmatizer.h>
 
@@ -8,65 +8,42 @@ using namespace Tavrin::English;
 namespace
 {
 
-std::string lemma(const std::string &word, PennTag tag)
+/// Of words that blanks part.
+std::string lemmas(const QString &words, PennTag tag)
 {
-    return Lemmatizer(*EnglishModel::shared()).lemma(WordForm(QString::fromStdString(word)), tag);
+    const Lemmatizer lemmatizer(*EnglishModel::shared());
+    QStringList result;
+    for (const QString &word : words.split(u' '))
+        result += QString::fromStdString(lemmatizer.lemma(WordForm(word), tag));
+    return result.join(u' ').toStdString();
 }
 
 } // namespace
 
 TEST(Lemmatizer, takesPluralEndingsOff)
 {
-    for (const auto &[plural, singular] :
-         std::vector<std::pair<std::string, std::string>>{{"boxes", "box"},
-                                                          {"indices", "index"},
-                                                          {"matrices", "matrix"},
-                                                          {"keys", "key"},
-                                                          {"buses", "bus"},
-                                                          {"branches", "branch"},
-                                                          {"directories", "directory"},
-                                                          {"data", "data"},
-                                                          {"species", "species"},
-                                                          {"mutexes", "mutex"},
-                                                          {"hostnames", "hostname"},
-                                                          {"corpus", "corpus"},
-                                                          {"classes", "class"},
-                                                          {"caches", "cache"},
-                                                          {"subdirectories", "subdirectory"}})
-        EXPECT_EQ(lemma(plural, PennTag::NNS), singular);
-    EXPECT_EQ(lemma("bus", PennTag::NN), "bus");
-    EXPECT_EQ(lemma("Buffers", PennTag::NNP), "buffer");
-    EXPECT_EQ(lemma("EPS", PennTag::NNP), "eps");
+    EXPECT_EQ(lemmas(u"boxes indices matrices keys buses branches directories data species"_s,
+                     PennTag::NNS),
+              "box index matrix key bus branch directory data species");
+    EXPECT_EQ(lemmas(u"mutexes hostnames corpus classes caches subdirectories"_s, PennTag::NNS),
+              "mutex hostname corpus class cache subdirectory");
+    EXPECT_EQ(lemmas(u"bus"_s, PennTag::NN), "bus");
+    EXPECT_EQ(lemmas(u"Buffers EPS"_s, PennTag::NNP), "buffer eps");
 }
 
 TEST(Lemmatizer, takesVerbEndingsOff)
 {
-    for (const auto &[form, base] :
-         std::vector<std::pair<std::string, std::string>>{{"installed", "install"},
-                                                          {"written", "write"},
-                                                          {"lay", "lie"},
-                                                          {"built", "build"},
-                                                          {"used", "use"},
-                                                          {"stopped", "stop"},
-                                                          {"parsed", "parse"},
-                                                          {"had", "have"},
-                                                          {"symlinked", "symlink"},
-                                                          {"tokenized", "tokenize"},
-                                                          {"preallocated", "preallocate"}})
-        EXPECT_EQ(lemma(form, PennTag::VBD), base);
-    EXPECT_EQ(lemma("debugging", PennTag::VBG), "debug");
-    EXPECT_EQ(lemma("running", PennTag::VBG), "run");
-    EXPECT_EQ(lemma("caching", PennTag::VBG), "cache");
-    EXPECT_EQ(lemma("specifies", PennTag::VBZ), "specify");
-    EXPECT_EQ(lemma("reinitializes", PennTag::VBZ), "reinitialize");
-    EXPECT_EQ(lemma("'s", PennTag::VBZ), "be");
+    EXPECT_EQ(lemmas(u"installed written lay built used stopped parsed had symlinked tokenized "
+                     "preallocated"_s,
+                     PennTag::VBD),
+              "install write lie build use stop parse have symlink tokenize preallocate");
+    EXPECT_EQ(lemmas(u"debugging running caching"_s, PennTag::VBG), "debug run cache");
+    EXPECT_EQ(lemmas(u"specifies reinitializes 's"_s, PennTag::VBZ), "specify reinitialize be");
 }
 
 TEST(Lemmatizer, takesDegreesOff)
 {
-    EXPECT_EQ(lemma("larger", PennTag::JJR), "large");
-    EXPECT_EQ(lemma("earliest", PennTag::JJS), "early");
-    EXPECT_EQ(lemma("better", PennTag::JJR), "good");
-    EXPECT_EQ(lemma("more", PennTag::JJR), "more");
-    EXPECT_EQ(lemma("other", PennTag::JJ), "other");
+    EXPECT_EQ(lemmas(u"larger better more"_s, PennTag::JJR), "large good more");
+    EXPECT_EQ(lemmas(u"earliest"_s, PennTag::JJS), "early");
+    EXPECT_EQ(lemmas(u"other"_s, PennTag::JJ), "other");
 }

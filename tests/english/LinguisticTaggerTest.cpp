@@ -1,17 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
+#include <support/Test.h>
 
 #include <QStringList>
 
 #include <future>
 
 #include <Tavrin/platform/LinguisticTagger.h>
-
-using namespace Tavrin;
-using namespace Qt::StringLiterals;
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 namespace
 {
@@ -37,6 +31,14 @@ std::vector<Seen> tokens(const QString &text, TagScheme scheme)
         [&](std::optional<LinguisticTag> tag, TextRange token, TextRange, bool &) {
             result.push_back({text.mid(token.location, token.length), *tag});
         });
+    return result;
+}
+
+std::vector<LinguisticTag> tags(const QString &text, TagScheme scheme)
+{
+    std::vector<LinguisticTag> result;
+    for (const Seen &seen : tokens(text, scheme))
+        result.push_back(seen.tag);
     return result;
 }
 
@@ -77,16 +79,13 @@ TEST(LinguisticTagger, cutsWordsNumbersAndMarks)
 TEST(LinguisticTagger, tellsJoinersAndParagraphs)
 {
     using enum LinguisticTag;
-    EXPECT_THAT(tokens(u"a floating-point"_s, TagScheme::LexicalClass),
-                ElementsAre(Seen{u"a"_s, OtherWord}, Seen{u" "_s, OtherWhitespace},
-                            Seen{u"floating"_s, Adjective}, Seen{u"-"_s, WordJoiner},
-                            Seen{u"point"_s, Noun}));
-    EXPECT_THAT(tokens(u"x - -y\nz\n\nw"_s, TagScheme::TokenType),
-                ElementsAre(Seen{u"x"_s, Word}, Seen{u" "_s, Whitespace}, Seen{u"-"_s, Punctuation},
-                            Seen{u" "_s, Whitespace}, Seen{u"-"_s, Punctuation}, Seen{u"y"_s, Word},
-                            Seen{u"\n"_s, Whitespace}, Seen{u"z"_s, Word},
-                            Seen{u"\n"_s, Whitespace}, Seen{u"\n"_s, Whitespace},
-                            Seen{u"w"_s, Word}));
+    EXPECT_THAT(tags(u"a floating-point"_s, TagScheme::LexicalClass),
+                ElementsAre(OtherWord, OtherWhitespace, Adjective, WordJoiner, Noun));
+    EXPECT_EQ(joinedTokens(u"a floating-point"_s), "a| |floating|-|point");
+    EXPECT_EQ(joinedTokens(u"x - -y\nz\n\nw"_s), "x| |-| |-|y|\n|z|\n|\n|w");
+    EXPECT_THAT(tags(u"x - -y\nz\n\nw"_s, TagScheme::TokenType),
+                ElementsAre(Word, Whitespace, Punctuation, Whitespace, Punctuation, Word,
+                            Whitespace, Word, Whitespace, Whitespace, Word));
     EXPECT_EQ(words(u"one\ntwo\n\nthree"_s, ParagraphBreak), "\n \n");
 }
 

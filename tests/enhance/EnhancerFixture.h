@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
+#include <support/Test.h>
 
 #include <Tavrin/enhance/EntryGraphNode.h>
 #include <Tavrin/enhance/PDFDestinationApproximator.h>
@@ -19,26 +18,25 @@ namespace Tavrin::Testing
 class EnhancerFixture : public testing::Test
 {
 protected:
-    EnhancerFixture() { map.title(QStringLiteral("Bus Manual")); }
+    EnhancerFixture() { map.title(u"Bus Manual"_s); }
 
     /// A title page, then a page for each chapter: heading, two sections with text, and in the
     /// second chapter a figure under the text.
     void addPages()
     {
-        pdf.addPage().text(200, 500, QStringLiteral("Bus Manual"), {Font::HelveticaBold, 24});
-        addChapter(QStringLiteral("1"), QStringLiteral("Arbitration"),
-                   {QStringLiteral("The arbiter grants the bus to one master at a time."),
-                    QStringLiteral("A master that wants the bus raises its request line."),
-                    QStringLiteral("The arbiter answers with a grant line.")},
-                   {QStringLiteral("Every master has a fixed rank. The arbiter reads the rank"),
-                    QStringLiteral("from a register of the master.")});
-        auto &page =
-            addChapter(QStringLiteral("2"), QStringLiteral("Transfers"),
-                       {QStringLiteral("A transfer moves words over the data lines."),
-                        QStringLiteral("The slave answers each word with an acknowledge pulse.")},
-                       {QStringLiteral("A burst moves many words in a row. The arbiter waits"),
-                        QStringLiteral("until the burst ends before it grants the bus anew.")});
-        page.text(220, 340, QStringLiteral("Figure 2.1: Acknowledge pulse"), {});
+        pdf.addPage().text(200, 500, u"Bus Manual"_s, {Font::HelveticaBold, 24});
+        addChapter(u"1"_s, u"Arbitration"_s,
+                   {u"The arbiter grants the bus to one master at a time."_s,
+                    u"A master that wants the bus raises its request line."_s,
+                    u"The arbiter answers with a grant line."_s},
+                   {u"Every master has a fixed rank. The arbiter reads the rank"_s,
+                    u"from a register of the master."_s});
+        auto &page = addChapter(u"2"_s, u"Transfers"_s,
+                                {u"A transfer moves words over the data lines."_s,
+                                 u"The slave answers each word with an acknowledge pulse."_s},
+                                {u"A burst moves many words in a row. The arbiter waits"_s,
+                                 u"until the burst ends before it grants the bus anew."_s});
+        page.text(220, 340, u"Figure 2.1: Acknowledge pulse"_s, {});
     }
 
     PDFPageBuilder &addChapter(const QString &number, const QString &title,
@@ -46,11 +44,9 @@ protected:
     {
         auto &page = pdf.addPage();
         page.text(72, 700, number + QLatin1Char(' ') + title, {Font::HelveticaBold, 18});
-        page.text(72, 650, number + QStringLiteral(".1 Rules of ") + title,
-                  {Font::HelveticaBold, 14});
+        page.text(72, 650, number + u".1 Rules of "_s + title, {Font::HelveticaBold, 14});
         page.column(72, 630, 12, first);
-        page.text(72, 550, number + QStringLiteral(".2 Limits of ") + title,
-                  {Font::HelveticaBold, 14});
+        page.text(72, 550, number + u".2 Limits of "_s + title, {Font::HelveticaBold, 14});
         page.column(72, 530, 12, second);
         return page;
     }
@@ -58,23 +54,19 @@ protected:
     void addEntries()
     {
         for (const auto &[number, title] :
-             {std::pair(QStringLiteral("1"), QStringLiteral("Arbitration")),
-              {QStringLiteral("2"), QStringLiteral("Transfers")}}) {
-            map.entry({.label = number,
-                       .type = QStringLiteral("chapter"),
-                       .index = number,
-                       .name = title});
-            map.entry({.label = number + QStringLiteral(".1"),
-                       .index = number + QStringLiteral(",1"),
-                       .name = QStringLiteral("Rules of ") + title});
-            map.entry({.label = number + QStringLiteral(".2"),
-                       .index = number + QStringLiteral(",2"),
-                       .name = QStringLiteral("Limits of ") + title});
+             {std::pair(u"1"_s, u"Arbitration"_s), {u"2"_s, u"Transfers"_s}}) {
+            map.entry({.label = number, .type = u"chapter"_s, .index = number, .name = title});
+            map.entry({.label = number + u".1"_s,
+                       .index = number + u",1"_s,
+                       .name = u"Rules of "_s + title});
+            map.entry({.label = number + u".2"_s,
+                       .index = number + u",2"_s,
+                       .name = u"Limits of "_s + title});
         }
-        map.entry({.label = QStringLiteral("F"),
-                   .type = QStringLiteral("figure"),
-                   .index = QStringLiteral("2,1"),
-                   .name = QStringLiteral("Acknowledge pulse")});
+        map.entry({.label = u"F"_s,
+                   .type = u"figure"_s,
+                   .index = u"2,1"_s,
+                   .name = u"Acknowledge pulse"_s});
     }
 
     /// Named destinations of the names that an enhancer looks for.
@@ -92,10 +84,10 @@ protected:
     template <class T = PDFXMLEnhancer>
     std::shared_ptr<T> make(const std::function<void(T &)> &configure = {})
     {
-        const QUrl dtd = files.write(QStringLiteral("spec.dtd"), MapBuilder::grammar());
-        const QUrl skeleton = map.write(files, QStringLiteral("skeleton.xml"));
+        const QUrl dtd = files.write(u"spec.dtd"_s, MapBuilder::grammar());
+        const QUrl skeleton = map.write(files, u"skeleton.xml"_s);
         auto enhancer = Specification::make<T>(skeleton, dtd, {}, configure);
-        enhancer->matchWith(files.write(QStringLiteral("manual.pdf"), pdf.build()));
+        enhancer->matchWith(files.write(u"manual.pdf"_s, pdf.build()));
         return enhancer;
     }
 
@@ -117,7 +109,7 @@ protected:
     }
 
     PDFBuilder pdf;
-    MapBuilder map{QStringLiteral("bus"), QStringLiteral("A")};
+    MapBuilder map{u"bus"_s, u"A"_s};
     TemporaryFiles files;
     StandardErrorCapture errors;
     std::string printed;

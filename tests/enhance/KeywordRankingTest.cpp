@@ -1,14 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
+#include <support/Test.h>
 
 #include <cmath>
 
 #include <Tavrin/enhance/KeywordRanking.h>
-
-using namespace Tavrin;
-using namespace Qt::StringLiterals;
-using testing::ElementsAre;
 
 namespace
 {

@@ -1,10 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
-#include <gtest/gtest.h>
+#include <support/Test.h>
 
 #include <Tavrin/enhance/LineEndHyphens.h>
-
-using namespace Tavrin;
-using namespace Qt::StringLiterals;
 
 namespace
 {

@@ -1,15 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
+#include <support/Test.h>
 
 #include <Tavrin/enhance/EntryGraphNode.h>
 #include <Tavrin/enhance/LinkPairing.h>
 #include <support/StandardErrorCapture.h>
 
-using namespace Tavrin;
-using namespace Qt::StringLiterals;
-using testing::ElementsAre;
-using testing::IsEmpty;
 using Type = Tavrin::SpecificationEntryType;
 
 namespace

@@ -3,16 +3,6 @@
 
 #include <Tavrin/platform/HostXMLDocument.h>
 
-using namespace Tavrin;
-using namespace Tavrin::Testing;
-using namespace Qt::StringLiterals;
-using testing::AllOf;
-using testing::Contains;
-using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::IsEmpty;
-using testing::Not;
-
 namespace
 {
 

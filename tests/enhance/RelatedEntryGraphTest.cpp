@@ -1,16 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
+#include <support/Test.h>
 
 #include <limits>
 
 #include <Tavrin/enhance/RelatedEntryGraph.h>
 
-using namespace Tavrin;
-using namespace Qt::StringLiterals;
 using Tavrin::RelatedEntryGraph::NodePtr;
-using testing::ElementsAre;
-using testing::IsEmpty;
 using Type = Tavrin::SpecificationEntryType;
 
 namespace
