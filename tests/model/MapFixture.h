@@ -4,7 +4,7 @@
 #include <QString>
 #include <QUrl>
 
-#include <gtest/gtest.h>
+#include <support/Test.h>
 
 #include <support/MapBuilder.h>
 #include <support/TemporaryFiles.h>
@@ -22,7 +22,7 @@ class MapFixture : public testing::Test
 protected:
     /// `dtd` is a grammar that lets everything through, for what only the reader objects to.
     MapFixture()
-        : dtd(write(QStringLiteral("any.dtd"),
+        : dtd(write(u"any.dtd"_s,
                     "<!ELEMENT spec ANY><!ATTLIST spec id CDATA #IMPLIED revision CDATA #IMPLIED "
                     "variant CDATA #IMPLIED lang CDATA #IMPLIED version CDATA #IMPLIED "
                     "nopreviews CDATA #IMPLIED xmlns CDATA #IMPLIED kelmor CDATA #IMPLIED>"
@@ -37,14 +37,14 @@ protected:
     }
 
     /// The grammar that the project ships, beside the maps.
-    QUrl shippedDTD() { return write(QStringLiteral("spec.dtd"), MapBuilder::grammar()); }
+    QUrl shippedDTD() { return write(u"spec.dtd"_s, MapBuilder::grammar()); }
 
     QUrl write(const QString &name, const QByteArray &text) { return files.write(name, text); }
 
     /// A map with a title around the content of its root element.
     QUrl map(const QByteArray &content, const QByteArray &attributes = "id='A' revision='2'")
     {
-        return write(QStringLiteral("map.xml"),
+        return write(u"map.xml"_s,
                      "<spec " + attributes + "><name>Language</name>" + content + "</spec>");
     }
 

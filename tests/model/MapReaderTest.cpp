@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "MapFixture.h"
 
-using namespace Tavrin;
-using namespace Tavrin::Testing;
-using namespace Qt::StringLiterals;
 using Kind = XMLError::Kind;
 
 namespace

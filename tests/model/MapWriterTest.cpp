@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "MapFixture.h"
 
-using namespace Tavrin;
-using namespace Tavrin::Testing;
-using namespace Qt::StringLiterals;
 using Type = SpecificationEntryType;
 
 namespace
@@ -70,7 +67,7 @@ TEST_F(MapWriter, PutsOneElementOnALine)
 {
     const QStringList lines = spec->writeSpecToXMLString({}).split(u'\n');
     EXPECT_EQ(lines[0], u"<?xml version=\"1.0\" encoding=\"UTF-8\"?>");
-    EXPECT_TRUE(lines[1].startsWith(u"<spec id=\"id\"")) << lines[1].toStdString();
+    EXPECT_THAT(lines[1], Begins(u"<spec id=\"id\""));
     EXPECT_EQ(lines.mid(2, 4),
               (QStringList{u"<auxfiles/>"_s, u"<name>A &gt;&lt; B &amp; \"C\"</name>"_s,
                            u"<shortname>A &gt;&lt; B &amp; \"C\"</shortname>"_s, u"<toc>"_s}));

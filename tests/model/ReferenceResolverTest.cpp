@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
-#include <gmock/gmock.h>
+#include <support/Test.h>
 
 #include <Tavrin/model/ReferenceResolver.h>
 #include <Tavrin/model/Specification.h>
 
-using namespace Tavrin;
-using namespace Qt::StringLiterals;
 using Type = SpecificationEntryType;
 
 namespace

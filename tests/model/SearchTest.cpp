@@ -9,9 +9,6 @@
 #include <cmath>
 #include <random>
 
-using namespace Tavrin;
-using namespace Tavrin::Testing;
-using namespace Qt::StringLiterals;
 using Type = SpecificationEntryType;
 
 namespace

@@ -3,10 +3,6 @@
 
 #include <Tavrin/model/SpecURL.h>
 
-using namespace Tavrin;
-using namespace Tavrin::Testing;
-using namespace Qt::StringLiterals;
-
 namespace
 {
 

@@ -5,9 +5,6 @@
 #include <random>
 #include <typeindex>
 
-using namespace Tavrin;
-using namespace Tavrin::Testing;
-using namespace Qt::StringLiterals;
 using Type = SpecificationEntryType;
 
 namespace

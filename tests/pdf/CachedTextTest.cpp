@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include <gmock/gmock.h>
+#include <support/Test.h>
 
 #include <algorithm>
 #include <random>
@@ -11,10 +11,6 @@
 #include <support/Corpus.h>
 #include <support/PDFBuilder.h>
 #include <support/StandardErrorCapture.h>
-
-using namespace Tavrin;
-using namespace Tavrin::Testing;
-using namespace Qt::StringLiterals;
 
 namespace
 {

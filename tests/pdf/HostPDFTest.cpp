@@ -1,13 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
-#include <gmock/gmock.h>
+#include <support/Test.h>
 
 #include <Tavrin/pdf/HostPDFDocument.h>
 #include <support/PDFBuilder.h>
-
-using namespace Tavrin;
-using namespace Tavrin::Testing;
-using namespace Qt::StringLiterals;
-using testing::DoubleNear;
 
 namespace
 {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include <gmock/gmock.h>
+#include <support/Test.h>
 
 #include <Tavrin/pdf/CachingPDFDocument.h>
 #include <Tavrin/pdf/PDFArray.h>
@@ -8,10 +8,6 @@
 #include <Tavrin/pdf/PDFNumber.h>
 #include <Tavrin/pdf/PDFString.h>
 #include <support/PDFBuilder.h>
-
-using namespace Tavrin;
-using namespace Tavrin::Testing;
-using namespace Qt::StringLiterals;
 
 namespace
 {

@@ -4,14 +4,10 @@
 #include <chrono>
 #include <thread>
 
-#include <gmock/gmock.h>
+#include <support/Test.h>
 
 #include <Tavrin/pdf/HostPDFDocument.h>
 #include <support/PDFBuilder.h>
-
-using namespace Tavrin;
-using namespace Tavrin::Testing;
-using namespace Qt::StringLiterals;
 
 namespace
 {

@@ -4,9 +4,6 @@
 #include <QDir>
 #include <QElapsedTimer>
 
-using namespace Tavrin;
-using namespace Tavrin::Testing;
-using namespace Qt::StringLiterals;
 using Kind = HostXMLError::Kind;
 
 namespace

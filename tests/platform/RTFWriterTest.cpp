@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include <gmock/gmock.h>
+#include <support/Test.h>
 
 #include <QImage>
 #include <QRegularExpression>
@@ -7,9 +7,6 @@
 #include <Tavrin/platform/RTFWriter.h>
 #include <Tavrin/platform/StyledText.h>
 #include <Tavrin/platform/TextAttachment.h>
-
-using namespace Tavrin;
-using namespace Qt::StringLiterals;
 
 namespace
 {
@@ -126,12 +123,11 @@ TEST(RTFWriter, WritesFontsColoursAndLinks)
     const PlainReader reader(document);
     EXPECT_EQ(reader.text, u"plainbothagainlink"_s);
     EXPECT_TRUE(reader.isWhole()) << document.constData();
-    EXPECT_TRUE(document.contains("\\f1\\fs21\\b\\i\\cf1 both")) << document.constData();
+    EXPECT_THAT(document, Holds("\\f1\\fs21\\b\\i\\cf1 both"));
     EXPECT_TRUE(document.contains("\\cf1 again"));
     EXPECT_EQ(document.count("\\red1\\green2\\blue3;"), 1);
     EXPECT_TRUE(document.contains("Some \\{Face\\};"));
-    EXPECT_TRUE(document.contains("HYPERLINK \"spec://a\\\\\\\\b%22\\}/*/*\""))
-        << document.constData();
+    EXPECT_THAT(document, Holds("HYPERLINK \"spec://a\\\\\\\\b%22\\}/*/*\""));
 }
 
 TEST(RTFWriter, EmbedsPicturesAtTheirSize)

@@ -1,14 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <QTranslator>
 
-#include <gtest/gtest.h>
+#include <support/Test.h>
 
 #include <Tavrin/platform/NotificationCenter.h>
 #include <Tavrin/platform/StandardError.h>
 #include <Tavrin/platform/TerminalStyle.h>
-
-using namespace Tavrin;
-using namespace Qt::StringLiterals;
 
 TEST(StandardError, SendsWholeLinesWhereTheLatestRedirectionSays)
 {

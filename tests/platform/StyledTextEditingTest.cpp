@@ -1,14 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
-#include <gmock/gmock.h>
+#include <support/Test.h>
 
 #include <Tavrin/platform/CharacterSet.h>
 #include <Tavrin/platform/DecimalForm.h>
 #include <Tavrin/platform/LineTrimmingError.h>
 #include <Tavrin/platform/StyledTextEditing.h>
 
-using namespace Tavrin;
 using namespace Tavrin::StyledTextEditing;
-using namespace Qt::StringLiterals;
 
 namespace
 {

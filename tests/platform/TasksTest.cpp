@@ -3,7 +3,7 @@
 #include <QEventLoop>
 #include <QThread>
 
-#include <gmock/gmock.h>
+#include <support/Test.h>
 
 #include <memory>
 #include <thread>
@@ -13,10 +13,6 @@
 #include <Tavrin/platform/PoolTask.h>
 #include <Tavrin/platform/PostedTask.h>
 #include <support/FinishTasks.h>
-
-using namespace Tavrin;
-using namespace Tavrin::Testing;
-using testing::ElementsAre;
 
 TEST(TasksTest, TasksRunInOrderOnTheThreadOfTheApplication)
 {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include <gmock/gmock.h>
+#include <support/Test.h>
 
 #include <QFile>
 #include <QRegularExpression>
@@ -10,9 +10,6 @@
 #include <Tavrin/model/SpecificationEntryType.h>
 #include <Tavrin/platform/StringLocalizer.h>
 #include <Tavrin/platform/Translations.h>
-
-using namespace Tavrin;
-using namespace Qt::StringLiterals;
 
 namespace
 {

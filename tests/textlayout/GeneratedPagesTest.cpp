@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "PageSketch.h"
 
-#include <gtest/gtest.h>
+#include <support/Test.h>
 
 #include <QElapsedTimer>
 
@@ -9,9 +9,6 @@
 #include <cmath>
 #include <limits>
 #include <random>
-
-using namespace Tavrin;
-using namespace Qt::StringLiterals;
 
 namespace
 {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "PageSketch.h"
 
+#include <support/Test.h>
+
 #include <algorithm>
 
 namespace Tavrin
@@ -23,8 +25,8 @@ double letterWidth(char32_t letter, bool fixed)
 PageSketch::PageSketch()
 {
     geometry.mediaBox = geometry.cropBox = {{0, 0}, {600, 800}};
-    glyphs.styles.push_back({{QStringLiteral("Serif"), 10, 0}, 0xff000000});
-    glyphs.styles.push_back({{QStringLiteral("Sans"), 14, TextFont::Bold}, 0xff0000ff});
+    glyphs.styles.push_back({{u"Serif"_s, 10, 0}, 0xff000000});
+    glyphs.styles.push_back({{u"Sans"_s, 14, TextFont::Bold}, 0xff0000ff});
 }
 
 Point PageSketch::print(const QString &text, Point place, const Look &look)

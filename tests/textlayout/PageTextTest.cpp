@@ -1,10 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "PageSketch.h"
 
-#include <gtest/gtest.h>
-
-using namespace Tavrin;
-using namespace Qt::StringLiterals;
+#include <support/Test.h>
 
 TEST(PageText, ofAnEmptyPageIsEmpty)
 {

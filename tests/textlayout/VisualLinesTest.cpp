@@ -1,13 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "PageSketch.h"
 
-#include <gtest/gtest.h>
+#include <support/Test.h>
 
 #include <algorithm>
 #include <iterator>
-
-using namespace Tavrin;
-using namespace Qt::StringLiterals;
 
 namespace
 {
