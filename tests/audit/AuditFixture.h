@@ -19,21 +19,21 @@ protected:
     AuditFixture()
     {
         addPages(5);
-        specification->setTitle(QStringLiteral("The <Engine> & its \"parts\""));
-        specification->setIdentifier(QStringLiteral("engine"));
-        specification->setRevision(QStringLiteral("7"));
-        addChapter(QStringLiteral("1"), QStringLiteral("Scope"), 1, 740);
-        addSection(QStringLiteral("1.1"), QStringLiteral("Purpose"), 1, 600);
-        addSection(QStringLiteral("1.2"), QStringLiteral("Words"), 1, 460);
-        addChapter(QStringLiteral("2"), QStringLiteral("Motion"), 2, 740);
-        addSection(QStringLiteral("2.1"), QStringLiteral("Speed"), 2, 600);
-        addSection(QStringLiteral("2.1.1"), QStringLiteral("Units"), 2, 460);
-        addChapter(QStringLiteral("A"), QStringLiteral("Tables"), 3, 740)->setIndex({3});
-        addSection(QStringLiteral("A.1"), QStringLiteral("Limits"), 3, 600)->setIndex({3, 1});
+        specification->setTitle(u"The <Engine> & its \"parts\""_s);
+        specification->setIdentifier(u"engine"_s);
+        specification->setRevision(u"7"_s);
+        addChapter(u"1"_s, u"Scope"_s, 1, 740);
+        addSection(u"1.1"_s, u"Purpose"_s, 1, 600);
+        addSection(u"1.2"_s, u"Words"_s, 1, 460);
+        addChapter(u"2"_s, u"Motion"_s, 2, 740);
+        addSection(u"2.1"_s, u"Speed"_s, 2, 600);
+        addSection(u"2.1.1"_s, u"Units"_s, 2, 460);
+        addChapter(u"A"_s, u"Tables"_s, 3, 740)->setIndex({3});
+        addSection(u"A.1"_s, u"Limits"_s, 3, 600)->setIndex({3, 1});
         page(2)
             .fill({{150, 200}, {200, 100}}, qRgb(255, 0, 0))
-            .text(200, 180, QStringLiteral("Figure 2-1: Red"), body);
-        red = figure(QStringLiteral("Figure 2-1"), QStringLiteral("Red"), 2, 305);
+            .text(200, 180, u"Figure 2-1: Red"_s, body);
+        red = figure(u"Figure 2-1"_s, u"Red"_s, 2, 305);
         red->setIndex({2, 1});
     }
 

@@ -1,10 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
-#include <gmock/gmock.h>
+#include <support/Test.h>
 
 #include <Tavrin/audit/AuditReferenceList.h>
-
-using namespace Tavrin;
-using namespace Qt::StringLiterals;
 
 namespace
 {

@@ -1,10 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "AuditFixture.h"
 
-using namespace Tavrin;
-using namespace Tavrin::Testing;
-using namespace Qt::StringLiterals;
-
 namespace
 {
 

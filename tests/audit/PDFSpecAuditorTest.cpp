@@ -9,10 +9,6 @@
 
 #include "AuditFixture.h"
 
-using namespace Tavrin;
-using namespace Tavrin::Testing;
-using namespace Qt::StringLiterals;
-
 namespace
 {
 

@@ -3,10 +3,6 @@
 
 #include <Tavrin/model/SpecURL.h>
 
-using namespace Tavrin;
-using namespace Tavrin::Testing;
-using namespace Qt::StringLiterals;
-
 namespace
 {
 
@@ -145,4 +141,49 @@ TEST_F(Binding, ReportsADocumentThatCannotBeLoaded)
     EXPECT_FALSE(spec->document());
     EXPECT_THAT(errors.text().toStdString(),
                 testing::StartsWith("Couldn't load document from URL"));
+}
+
+TEST_F(Binding, TakesAnotherDocumentInPlaceOfTheFirst)
+{
+    map.file(u"pdf"_s, u"Überschrift a Sample"_s).entry({.label = u"scope"_s, .name = u"Scope"_s});
+    pdf.outline({{u"First"_s, Dest::xyz(1, 72, 620)}});
+    const auto spec = specification();
+    spec->claimAuxiliaryFile(document());
+    PDFBuilder second;
+    second.addPage().text(72, 600, u"1 Scope"_s);
+    second.namedDestination("scope", Dest::xyz(0, 72, 640));
+    second.outline({{u"Second"_s, Dest::xyz(0, 72, 640)}});
+    spec->loadPDFDocument(files.write(u"second.pdf"_s, second.build()));
+    const auto expectSecond = [&] {
+        EXPECT_EQ(spec->document()->pageCount(), 1);
+        EXPECT_EQ(spec->pageDictionaries().size(), 1U);
+        EXPECT_EQ(spec->sortedDestinations().size(), 1U);
+        EXPECT_EQ(place(spec->destination(u"scope"_s)), (Place{0, {72, 640}}));
+        EXPECT_EQ(spec->documentOutline().keys(), QStringList{u"Second"_s});
+    };
+    expectSecond();
+    const auto bound = spec->document();
+    spec->loadPDFDocument(files.url(u"missing.pdf"_s));
+    spec->loadPDFDocument(files.write(u"no.pdf"_s, "no pdf"));
+    EXPECT_EQ(errors.messages().filter(u"Couldn't load document from URL"_s).size(), 2);
+    EXPECT_EQ(spec->document(), bound) << "what can't be opened leaves all as it was";
+    expectSecond();
+    PDFBuilder broken;
+    broken.catalogEntry("Pages", "[]");
+    EXPECT_THROW(spec->loadPDFStructure(CachingPDFDocument::open(broken.build())),
+                 PDFSpecification::ParseError);
+    spec->loadPDFDocument(files.url(u"second.pdf"_s));
+    expectSecond();
+}
+
+TEST_F(Binding, TakesTheOutlineThatItIsGiven)
+{
+    pdf.outline({{u"First"_s, Dest::xyz(1, 72, 620)}});
+    const auto spec = load();
+    EXPECT_EQ(spec->documentOutline().keys(), QStringList{u"First"_s});
+    pdf.outline({{u"Second"_s, Dest::xyz(1, 72, 320)}});
+    const auto other = CachingPDFDocument::open(pdf.build());
+    spec->loadPDFStructure(other);
+    spec->setDocumentOutline(spec->parseOutline(*other));
+    EXPECT_EQ(place(spec->destinationForLink(u"outline:Second"_s)), (Place{1, {72, 320}}));
 }

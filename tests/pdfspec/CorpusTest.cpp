@@ -5,10 +5,6 @@
 #include <Tavrin/pdf/LineFinder.h>
 #include <support/Corpus.h>
 
-using namespace Tavrin;
-using namespace Tavrin::Testing;
-using namespace Qt::StringLiterals;
-
 namespace
 {
 

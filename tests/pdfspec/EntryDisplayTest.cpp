@@ -6,10 +6,6 @@
 
 #include "ReadingFixture.h"
 
-using namespace Tavrin;
-using namespace Tavrin::Testing;
-using namespace Qt::StringLiterals;
-
 namespace
 {
 
@@ -19,9 +15,7 @@ protected:
     EntryDisplay()
     {
         addPages(4);
-        page(1)
-            .text(left, 720, u"1 Scope"_s, heading)
-            .column(left, 700, 12, lines(u"scope"_s, 4), body);
+        printSection(1, 720, u"1 Scope"_s, u"scope"_s, 4);
         page(1)
             .fill({{150, 100}, {200, 100}}, qRgb(255, 0, 0))
             .text(200, 80, u"Figure 1: Red"_s, body);

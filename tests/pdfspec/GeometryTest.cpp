@@ -1,10 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "ReadingFixture.h"
 
-using namespace Tavrin;
-using namespace Tavrin::Testing;
-using namespace Qt::StringLiterals;
-
 namespace
 {
 
@@ -14,17 +10,11 @@ protected:
     EntryGeometry()
     {
         addPages(4);
-        page(1)
-            .text(left, 720, u"1 Scope"_s, heading)
-            .column(left, 700, 12, lines(u"scope"_s, 5), body);
+        printSection(1, 720, u"1 Scope"_s, u"scope"_s, 5);
         page(1).stroke({{150, 500}, {200, 120}}).text(180, 480, u"Figure 1: The parts"_s, body);
         page(1).column(left, 440, 12, lines(u"more"_s, 5), body);
-        page(1)
-            .text(left, 340, u"1.1 Terms"_s, heading)
-            .column(left, 320, 12, lines(u"terms"_s, 5), body);
-        page(3)
-            .text(left, 720, u"2 Rules"_s, heading)
-            .column(left, 700, 12, lines(u"rules"_s, 5), body);
+        printSection(1, 340, u"1.1 Terms"_s, u"terms"_s, 5);
+        printSection(3, 720, u"2 Rules"_s, u"rules"_s, 5);
         scope = section(u"1"_s, u"Scope"_s, 1, 740);
         parts = figure(u"Figure 1"_s, u"The parts"_s, 1, 625);
         terms = section(u"1.1"_s, u"Terms"_s, 1, 360);

@@ -5,10 +5,6 @@
 #include <Tavrin/platform/HostPDFError.h>
 #include <support/HostilePDF.h>
 
-using namespace Tavrin;
-using namespace Tavrin::Testing;
-using namespace Qt::StringLiterals;
-
 using HostileDocuments = PDFFixture;
 
 TEST_F(HostileDocuments, PageTreesThatLieOrLoop)

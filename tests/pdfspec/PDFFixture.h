@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <gmock/gmock.h>
+#include <support/Test.h>
 
 #include <Tavrin/pdfspec/PDFSpecificationEntry.h>
 #include <support/MapBuilder.h>

@@ -30,12 +30,12 @@ protected:
     EntryPtr section(const QString &label, const QString &title, int page, double y)
     {
         return add(label, title, SpecificationEntryType::Section,
-                   QStringLiteral("destination:%1,72,%2").arg(page).arg(y));
+                   u"destination:%1,72,%2"_s.arg(page).arg(y));
     }
     EntryPtr figure(const QString &label, const QString &title, int page, double y)
     {
         return add(label, title, SpecificationEntryType::Figure,
-                   QStringLiteral("destination:%1,72,%2").arg(page).arg(y));
+                   u"destination:%1,72,%2"_s.arg(page).arg(y));
     }
 
     /// Lines of body text, each as wide as the column and different from all others.
@@ -43,11 +43,9 @@ protected:
     {
         QStringList result;
         for (int i = 0; i < count; ++i) {
-            result +=
-                QStringLiteral("%1 line %2 of the text that fills the column from its left to "
-                               "its right edge, nearly")
-                    .arg(word)
-                    .arg(i);
+            result += u"%1 line %2 of the text that fills the column from its left to "
+                      "its right edge, nearly"_s.arg(word)
+                          .arg(i);
         }
         return result;
     }
@@ -55,11 +53,19 @@ protected:
     /// A front page, and pages of body text to measure the print by.
     void addPages(int count)
     {
-        pdf.addPage().text(200, 600, QStringLiteral("A Specification"), heading);
+        pdf.addPage().text(200, 600, u"A Specification"_s, heading);
         for (int i = 1; i < count; ++i)
             pages.push_back(&pdf.addPage());
     }
     PDFPageBuilder &page(int index) { return *pages.at(static_cast<std::size_t>(index) - 1); }
+    /// A heading with its baseline at y, and lines of text below it.
+    PDFPageBuilder &printSection(int index, double y, const QString &title, const QString &word,
+                                 int count)
+    {
+        return page(index)
+            .text(left, y, title, heading)
+            .column(left, y - 20, 12, lines(word, count), body);
+    }
 
     void bind()
     {

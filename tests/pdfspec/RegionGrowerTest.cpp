@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
-#include <gmock/gmock.h>
+#include <support/Test.h>
 
 #include <Tavrin/pdfspec/RegionGrower.h>
-
-using namespace Tavrin;
 
 namespace
 {

@@ -3,11 +3,6 @@
 
 #include "ReadingFixture.h"
 
-using namespace Tavrin;
-using namespace Tavrin::Testing;
-using namespace Qt::StringLiterals;
-using testing::HasSubstr;
-
 namespace
 {
 
@@ -32,17 +27,11 @@ protected:
 TEST_F(SectionText, RunsFromHeadingToHeading)
 {
     addPages(4);
-    page(1)
-        .text(left, 700, u"1 Scope"_s, heading)
-        .column(left, 680, 12, lines(u"scope"_s, 3), body);
-    page(1)
-        .text(left, 600, u"1.1 Terms"_s, heading)
-        .column(left, 580, 12, lines(u"terms"_s, 2), body);
+    printSection(1, 700, u"1 Scope"_s, u"scope"_s, 3);
+    printSection(1, 600, u"1.1 Terms"_s, u"terms"_s, 2);
     page(2).column(left, 700, 12, lines(u"middle"_s, 2), body);
     page(3).column(left, 700, 12, lines(u"end"_s, 2), body);
-    page(3)
-        .text(left, 600, u"2 Rules"_s, heading)
-        .column(left, 580, 12, lines(u"rules"_s, 2), body);
+    printSection(3, 600, u"2 Rules"_s, u"rules"_s, 2);
     const auto scope = section(u"1"_s, u"Scope"_s, 1, 720);
     const auto terms = section(u"1.1"_s, u"Terms"_s, 1, 620);
     const auto rules = section(u"2"_s, u"Rules"_s, 3, 620);
@@ -66,7 +55,7 @@ TEST_F(SectionText, LeavesOutWhatThePrintedAreaLeavesOut)
     addPages(3);
     for (int i = 1; i < 3; ++i)
         page(i).text(left, 750, u"2 Rules"_s, {Font::TimesItalic, 10}).text(300, 30, u"17"_s, body);
-    page(1).text(left, 700, u"1 Scope"_s, heading).column(left, 680, 12, lines(u"a"_s, 2), body);
+    printSection(1, 700, u"1 Scope"_s, u"a"_s, 2);
     page(2).column(left, 700, 12, lines(u"b"_s, 2), body).text(left, 500, u"2 Rules"_s, heading);
     const auto scope = section(u"1"_s, u"Scope"_s, 1, 720);
     const auto rules = section(u"2"_s, u"Rules"_s, 2, 760);
@@ -82,9 +71,7 @@ TEST_F(SectionText, LeavesOutWhatThePrintedAreaLeavesOut)
 TEST_F(SectionText, FindsHeadingsHoweverTheyAreSet)
 {
     addPages(4);
-    page(1)
-        .text(left, 700, u"Scope  of  this"_s, heading)
-        .column(left, 680, 12, lines(u"a"_s, 2), body);
+    printSection(1, 700, u"Scope  of  this"_s, u"a"_s, 2);
     page(1)
         .text(left, 600, u"A heading that is bro-"_s, heading)
         .text(left, 585, u"ken over \u201Clines\u201D"_s, heading)
@@ -144,9 +131,7 @@ TEST_F(SectionText, MakesBulletsBeginLines)
 TEST_F(SectionText, LeavesFiguresOutAndReadsThemByThemselves)
 {
     addPages(3);
-    page(1)
-        .text(left, 720, u"1 Scope"_s, heading)
-        .column(left, 700, 12, lines(u"above"_s, 4), body);
+    printSection(1, 720, u"1 Scope"_s, u"above"_s, 4);
     page(1)
         .stroke({{150, 500}, {200, 120}})
         .text(200, 560, u"label"_s, {Font::Helvetica, 8})
@@ -166,7 +151,7 @@ TEST_F(SectionText, LeavesFiguresOutAndReadsThemByThemselves)
 TEST_F(SectionText, SaysWhatIsWrongWithAMap)
 {
     addPages(3);
-    page(1).text(left, 700, u"1 Scope"_s, heading).column(left, 680, 12, lines(u"a"_s, 2), body);
+    printSection(1, 700, u"1 Scope"_s, u"a"_s, 2);
     const auto wrongTitle = section(u"x"_s, u"Nothing like it"_s, 1, 720);
     const auto wrongCase = section(u"y"_s, u"scope"_s, 1, 719);
     const auto empty = section(u"z"_s, u"Void"_s, 2, 700);
@@ -204,7 +189,7 @@ TEST_F(SectionText, TellsAHeadingOutsideThePrintedArea)
 TEST_F(SectionText, SurvivesMapsThatPointAnywhere)
 {
     addPages(3);
-    page(1).text(left, 700, u"A"_s, heading).column(left, 680, 12, lines(u"a"_s, 3), body);
+    printSection(1, 700, u"A"_s, u"a"_s, 3);
     page(2).column(left, 700, 12, lines(u"b"_s, 3), body);
     std::vector<EntryPtr> entries;
     const QStringList titles{u"A"_s, QString(), u"a"_s, u" "_s, u"line"_s, QString(500, u'x')};
