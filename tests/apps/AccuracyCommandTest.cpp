@@ -1,10 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
-#include <gtest/gtest.h>
+#include <support/Test.h>
 
 #include "DraftedManual.h"
-
-using namespace Tavrin::Testing;
-using namespace Qt::StringLiterals;
 
 namespace
 {
@@ -70,15 +67,13 @@ TEST_F(AccuracyCommand, TellsWhatIsReadWrong)
     EXPECT_EQ(share(otherText, u"first-words"_s)[u"right"_s].toInt(), 0);
     const ProgramRun run = measure(otherText, {u"--faults"_s});
     EXPECT_EQ(run.exitCode, 1);
-    EXPECT_TRUE(run.output.contains(u"3.2"_s)) << run.output.toStdString();
+    EXPECT_THAT(run.output, Holds(u"3.2"_s));
 }
 
 TEST_F(AccuracyCommand, RefusesWhatIsNoTable)
 {
     const auto refused = [](const QString &truth, const QString &fault) {
-        const ProgramRun run = measure(truth);
-        EXPECT_EQ(run.exitCode, 2);
-        EXPECT_TRUE(run.errors.contains(fault)) << run.errors.toStdString();
+        expectRefusal(measure(truth), fault);
     };
     refused(table({.baseline = "low"}), u"truth.tsv:3: ty \"low\" is no number"_s);
     refused(written("kind\tlabel\n"), u"truth.tsv:1: no column is named \"title\""_s);

@@ -1,13 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
-#include <gmock/gmock.h>
+#include <support/Test.h>
 
 #include <QFile>
 #include <QProcess>
 
 #include "DraftedManual.h"
-
-using namespace Tavrin::Testing;
-using namespace Qt::StringLiterals;
 
 namespace
 {
@@ -25,13 +22,6 @@ protected:
         return runTavrin(
             QStringList{u"audit"_s, writeReferences(text), u"--map"_s, map(), u"--pdf"_s, pdf()} +
             options);
-    }
-    static void expectRefusal(const ProgramRun &run, const QString &fault)
-    {
-        EXPECT_EQ(run.exitCode, 2) << fault.toStdString();
-        EXPECT_TRUE(run.output.isEmpty()) << run.output.toStdString();
-        EXPECT_TRUE(run.errors.startsWith(u"tavrin: ")) << run.errors.toStdString();
-        EXPECT_TRUE(run.errors.contains(fault)) << run.errors.toStdString();
     }
 };
 
@@ -64,9 +54,8 @@ TEST_F(AuditCommand, FailsForDemandsThatAreNotMet)
     EXPECT_EQ(audit("1.1\n1.2\n", {u"--require"_s, u"1.*"_s}).exitCode, 0);
     const ProgramRun missing = audit("1\n1.1\n", {u"--require"_s, u"1.*"_s});
     EXPECT_EQ(missing.exitCode, 1);
-    EXPECT_TRUE(missing.output.contains(u"Required 1.*: 1 of 2 entries cited\n"
-                                        "    1.2  Things to do last\n"_s))
-        << missing.output.toStdString();
+    EXPECT_THAT(missing.output, Holds(u"Required 1.*: 1 of 2 entries cited\n"
+                                      "    1.2  Things to do last\n"_s));
     EXPECT_EQ(audit("1.1\n", {u"--require"_s, u"9*"_s}).exitCode, 1);
     EXPECT_EQ(audit("1\n2\n", {u"--min-coverage"_s, u"66.6"_s}).exitCode, 0);
     EXPECT_EQ(audit("1\n2\n", {u"--min-coverage"_s, u"67"_s}).exitCode, 1);
@@ -74,8 +63,7 @@ TEST_F(AuditCommand, FailsForDemandsThatAreNotMet)
         audit("1.1\n", {u"--min-coverage"_s, u"90"_s, u"--format"_s, u"junit"_s});
     EXPECT_EQ(piped.exitCode, 1);
     EXPECT_TRUE(piped.output.startsWith(u"<?xml"_s)) << "the report stands alone";
-    EXPECT_TRUE(piped.errors.contains(u"Required coverage: 90 %, reached: 16.6 %"_s))
-        << piped.errors.toStdString();
+    EXPECT_THAT(piped.errors, Holds(u"Required coverage: 90 %, reached: 16.6 %"_s));
 }
 
 TEST_F(AuditCommand, WritesEveryFormat)

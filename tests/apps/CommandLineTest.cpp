@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include <gmock/gmock.h>
+#include <support/Test.h>
 
 #include <Tavrin/platform/TavrinVersion.h>
 #include <support/HostilePDF.h>
@@ -7,9 +7,6 @@
 #include <support/TemporaryFiles.h>
 
 #include "Program.h"
-
-using namespace Tavrin::Testing;
-using namespace Qt::StringLiterals;
 
 namespace
 {
@@ -19,16 +16,10 @@ const QStringList commands{u"draft"_s,   u"check"_s,    u"lookup"_s,  u"show"_s,
                            u"inspect"_s, u"accuracy"_s, u"enhance"_s, u"graph"_s,
                            u"import"_s,  u"files"_s,    u"forget"_s,  u"audit"_s};
 
-/// Bad input: exit code 2, one line on standard error that names the fault, and nothing else.
-void expectRefusal(const QStringList &arguments, const QString &fault)
+void expectRefused(const QStringList &arguments, const QString &fault)
 {
-    const std::string trace = arguments.join(u' ').toStdString();
-    const ProgramRun run = runTavrin(arguments);
-    EXPECT_EQ(run.exitCode, 2) << trace;
-    EXPECT_TRUE(run.output.isEmpty()) << trace << '\n' << run.output.toStdString();
-    EXPECT_TRUE(run.errors.startsWith(u"tavrin: ")) << trace << '\n' << run.errors.toStdString();
-    EXPECT_EQ(run.errors.count(u'\n'), 1) << trace << '\n' << run.errors.toStdString();
-    EXPECT_TRUE(run.errors.contains(fault)) << trace << '\n' << run.errors.toStdString();
+    SCOPED_TRACE(arguments.join(u' ').toStdString());
+    expectRefusal(runTavrin(arguments), fault);
 }
 
 QString writeGoodMap(const TemporaryFiles &files, const QString &name)
@@ -51,9 +42,8 @@ TEST(CommandLine, ExplainsItself)
         EXPECT_TRUE(overview.output.contains(u"\n  "_s + command + u' ')) << command.toStdString();
         const ProgramRun help = runTavrin({command, u"--help"_s});
         EXPECT_EQ(help.exitCode, 0) << command.toStdString();
-        EXPECT_TRUE(help.output.startsWith(u"Usage: tavrin "_s + command + u' '))
-            << help.output.toStdString();
-        EXPECT_TRUE(help.output.contains(u"--help"_s)) << help.output.toStdString();
+        EXPECT_THAT(help.output, Begins(u"Usage: tavrin "_s + command + u' '));
+        EXPECT_THAT(help.output, Holds(u"--help"_s));
         EXPECT_TRUE(help.errors.isEmpty()) << help.errors.toStdString();
         EXPECT_EQ(runTavrin({u"help"_s, command}).output, help.output);
     }
@@ -66,18 +56,18 @@ TEST(CommandLine, ExplainsItself)
 
 TEST(CommandLine, RefusesWhatItDoesNotKnow)
 {
-    expectRefusal({}, u"no command"_s);
-    expectRefusal({u"explode"_s}, u"explode"_s);
-    expectRefusal({u"help"_s, u"explode"_s}, u"explode"_s);
+    expectRefused({}, u"no command"_s);
+    expectRefused({u"explode"_s}, u"explode"_s);
+    expectRefused({u"help"_s, u"explode"_s}, u"explode"_s);
     for (const QString &command : commands)
-        expectRefusal({command, u"--explode"_s}, u"tavrin %1 --help"_s.arg(command));
-    expectRefusal({u"lookup"_s, u"--maps"_s}, u"maps"_s);
+        expectRefused({command, u"--explode"_s}, u"tavrin %1 --help"_s.arg(command));
+    expectRefused({u"lookup"_s, u"--maps"_s}, u"maps"_s);
     for (const QString &command : {u"lookup"_s, u"search"_s, u"similar"_s})
-        expectRefusal({command, u"4.2"_s}, u"--maps DIR"_s);
-    expectRefusal({u"list"_s}, u"--maps DIR"_s);
-    expectRefusal({u"import"_s}, u"nothing"_s);
-    expectRefusal({u"forget"_s}, u"nothing"_s);
-    expectRefusal({u"files"_s, u"a.pdf"_s}, u"no arguments"_s);
+        expectRefused({command, u"4.2"_s}, u"--maps DIR"_s);
+    expectRefused({u"list"_s}, u"--maps DIR"_s);
+    expectRefused({u"import"_s}, u"nothing"_s);
+    expectRefused({u"forget"_s}, u"nothing"_s);
+    expectRefused({u"files"_s, u"a.pdf"_s}, u"no arguments"_s);
 }
 
 TEST(CommandLine, WantsTheArgumentsOfACommand)
@@ -85,16 +75,16 @@ TEST(CommandLine, WantsTheArgumentsOfACommand)
     const TemporaryFiles files;
     writeGoodMap(files, u"a.xml"_s);
     for (const QString &command : {u"lookup"_s, u"search"_s, u"similar"_s})
-        expectRefusal({command, u"--maps"_s, files.path()}, u"nothing"_s);
-    expectRefusal({u"search"_s, u"--maps"_s, files.path(), u" "_s}, u"nothing"_s);
-    expectRefusal({u"search"_s, u"--maps"_s, files.path(), u"--limit"_s, u"few"_s, u"x"_s},
+        expectRefused({command, u"--maps"_s, files.path()}, u"nothing"_s);
+    expectRefused({u"search"_s, u"--maps"_s, files.path(), u" "_s}, u"nothing"_s);
+    expectRefused({u"search"_s, u"--maps"_s, files.path(), u"--limit"_s, u"few"_s, u"x"_s},
                   u"--limit few"_s);
-    expectRefusal({u"similar"_s, u"--maps"_s, files.path(), u"--count"_s, u"0"_s, u"x"_s},
+    expectRefused({u"similar"_s, u"--maps"_s, files.path(), u"--count"_s, u"0"_s, u"x"_s},
                   u"--count 0"_s);
-    expectRefusal({u"list"_s, u"--maps"_s, files.path(), u"--type"_s, u"poem"_s}, u"poem"_s);
+    expectRefused({u"list"_s, u"--maps"_s, files.path(), u"--type"_s, u"poem"_s}, u"poem"_s);
     for (const QString &command : {u"draft"_s, u"check"_s, u"inspect"_s}) {
-        expectRefusal({command}, u"one "_s);
-        expectRefusal({command, u"a"_s, u"b"_s}, u"one "_s);
+        expectRefused({command}, u"one "_s);
+        expectRefused({command, u"a"_s, u"b"_s}, u"one "_s);
     }
 }
 
@@ -108,22 +98,22 @@ TEST(CommandLine, RefusesBrokenFilesByName)
     const QStringList withMaps{u"--maps"_s, files.path(u"maps"_s)};
 
     for (const QString &command : {u"draft"_s, u"check"_s, u"inspect"_s})
-        expectRefusal({command, files.path(u"none"_s)}, u"none: "_s);
+        expectRefused({command, files.path(u"none"_s)}, u"none: "_s);
     for (const QString &command : {u"draft"_s, u"check"_s, u"inspect"_s})
-        expectRefusal({command, noPDF}, u"text.pdf:"_s);
+        expectRefused({command, noPDF}, u"text.pdf:"_s);
     for (const QString &pdf : {noPDF, files.path(u"none.pdf"_s)}) {
-        expectRefusal(QStringList{u"lookup"_s} + withMaps + QStringList{u"--pdf"_s, pdf, u"1"_s},
+        expectRefused(QStringList{u"lookup"_s} + withMaps + QStringList{u"--pdf"_s, pdf, u"1"_s},
                       pdf + u": "_s);
         EXPECT_EQ(runTavrin({u"check"_s, good, u"--dtd"_s, files.path(u"maps/good.dtd"_s),
                              u"--pdf"_s, pdf})
                       .exitCode,
                   2);
     }
-    expectRefusal({u"check"_s, good}, u"good.xml: The map names no DTD"_s);
-    expectRefusal({u"check"_s, good, u"--dtd"_s, files.path(u"none.dtd"_s)}, u"none.dtd: "_s);
-    expectRefusal({u"list"_s, u"--maps"_s, files.path(u"none"_s)}, u"none: "_s);
-    expectRefusal({u"list"_s, u"--maps"_s, files.path()}, u"no map"_s);
-    expectRefusal({u"draft"_s, noPDF, u"-o"_s, files.path(u"none/map.xml"_s)}, u"text.pdf"_s);
+    expectRefused({u"check"_s, good}, u"good.xml: The map names no DTD"_s);
+    expectRefused({u"check"_s, good, u"--dtd"_s, files.path(u"none.dtd"_s)}, u"none.dtd: "_s);
+    expectRefused({u"list"_s, u"--maps"_s, files.path(u"none"_s)}, u"none: "_s);
+    expectRefused({u"list"_s, u"--maps"_s, files.path()}, u"no map"_s);
+    expectRefused({u"draft"_s, noPDF, u"-o"_s, files.path(u"none/map.xml"_s)}, u"text.pdf"_s);
 }
 
 TEST(CommandLine, RefusesBrokenMapsByNameAndLine)
@@ -142,7 +132,7 @@ TEST(CommandLine, RefusesBrokenMapsByNameAndLine)
         broken.replace(from, to);
         ASSERT_NE(broken, good) << from.constData();
         files.write(u"maps/engine.xml"_s, broken);
-        expectRefusal({u"check"_s, map, u"--dtd"_s, dtd}, u"engine.xml:"_s);
-        expectRefusal({u"lookup"_s, u"--maps"_s, files.path(u"maps"_s), u"1"_s}, u"engine.xml:"_s);
+        expectRefused({u"check"_s, map, u"--dtd"_s, dtd}, u"engine.xml:"_s);
+        expectRefused({u"lookup"_s, u"--maps"_s, files.path(u"maps"_s), u"1"_s}, u"engine.xml:"_s);
     }
 }

@@ -1,17 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
-#include <gmock/gmock.h>
+#include <support/Test.h>
 
 #include <QDir>
 
 #include <support/Corpus.h>
 
 #include "DraftedManual.h"
-
-using namespace Tavrin::Testing;
-using namespace Qt::StringLiterals;
-using testing::AllOf;
-using testing::HasSubstr;
-using testing::Not;
 
 namespace
 {

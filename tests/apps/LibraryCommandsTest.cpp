@@ -1,12 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
-#include <gmock/gmock.h>
+#include <support/Test.h>
 
 #include <support/MapBuilder.h>
 
 #include "DraftedManual.h"
-
-using namespace Tavrin::Testing;
-using namespace Qt::StringLiterals;
 
 namespace
 {
@@ -60,8 +57,7 @@ TEST_F(LibraryCommands, LookUpAPlaceByLabelURLAndReference)
     }
     const ProgramRun text = runBound(u"lookup"_s, {u"3.2"_s});
     EXPECT_EQ(text.exitCode, 0);
-    EXPECT_TRUE(text.output.startsWith(u"Section 3.2  Things to do last\n    page 4 at 72, "_s))
-        << text.output.toStdString();
+    EXPECT_THAT(text.output, Begins(u"Section 3.2  Things to do last\n    page 4 at 72, "_s));
     EXPECT_TRUE(text.output.contains(u"Engine\n    spec://3.2/engine/7\n"_s));
 }
 
@@ -108,8 +104,7 @@ TEST_F(LibraryCommands, LookUpRangesOfEntriesAndOfLines)
         const ProgramRun run = runBound(u"lookup"_s, {u"1.1"_s, u"spec://3.2/engine/7/"_s + lines});
         EXPECT_EQ(run.exitCode, 2);
         EXPECT_TRUE(run.output.isEmpty());
-        EXPECT_TRUE(run.errors.contains(u"\"%1\" is no range of lines"_s.arg(lines)))
-            << run.errors.toStdString();
+        EXPECT_THAT(run.errors, Holds(u"\"%1\" is no range of lines"_s.arg(lines)));
         EXPECT_EQ(runBound(u"show"_s, {u"spec://3.2/engine/7/"_s + lines}).exitCode, 2);
     }
 }
@@ -119,7 +114,7 @@ TEST_F(LibraryCommands, ShowTheTextOfAnEntryAndOfItsLines)
     const ProgramRun section = runBound(u"show"_s, {u"2.1"_s});
     EXPECT_EQ(section.exitCode, 0) << section.errors.toStdString();
     EXPECT_TRUE(section.output.contains(u"Section 2.1 Things to do first"_s));
-    EXPECT_TRUE(section.output.contains(u"at height 448,"_s)) << section.output.toStdString();
+    EXPECT_THAT(section.output, Holds(u"at height 448,"_s));
     EXPECT_FALSE(section.output.contains(u"at height 590,"_s)) << "text of the chapter above";
     EXPECT_FALSE(section.output.contains(u"at height 360,"_s)) << "text of the next section";
     const ProgramRun lines = runBound(u"show"_s, {u"spec://2.1/engine/7/0/1"_s});
@@ -153,7 +148,7 @@ TEST_F(LibraryCommands, RefuseAPDFThatNoMapRecognises)
     const ProgramRun run =
         runWithMap(u"lookup"_s, {u"--pdf"_s, files().path(u"other.pdf"_s), u"1.1"_s});
     EXPECT_EQ(run.exitCode, 2);
-    EXPECT_TRUE(run.errors.contains(u"other.pdf"_s)) << run.errors.toStdString();
+    EXPECT_THAT(run.errors, Holds(u"other.pdf"_s));
 }
 
 TEST_F(LibraryCommands, SearchSaysWhyEachHitMatched)
@@ -175,10 +170,9 @@ TEST_F(LibraryCommands, SearchSaysWhyEachHitMatched)
 TEST_F(LibraryCommands, SearchCountsItsHits)
 {
     const ProgramRun all = runBound(u"search"_s, {u"things"_s});
-    EXPECT_TRUE(all.output.endsWith(u"\n6 hits\n"_s)) << all.output.toStdString();
+    EXPECT_THAT(all.output, Ends(u"\n6 hits\n"_s));
     const ProgramRun some = runBound(u"search"_s, {u"--limit"_s, u"2"_s, u"things"_s});
-    EXPECT_TRUE(some.output.endsWith(u"\n2 of 6 hits; --limit 0 shows all\n"_s))
-        << some.output.toStdString();
+    EXPECT_THAT(some.output, Ends(u"\n2 of 6 hits; --limit 0 shows all\n"_s));
     EXPECT_EQ(
         runBound(u"search"_s, {u"--limit"_s, u"2"_s, u"--json"_s, u"things"_s}).array().size(), 2);
     const ProgramRun none = runBound(u"search"_s, {u"dragons"_s});
@@ -255,9 +249,7 @@ TEST_F(LibraryCommands, SpeakTheLanguageOfTheLocaleButNotInData)
     };
     const QStringList lookup{u"lookup"_s, u"Abschnitt 3.2"_s};
     const ProgramRun german = run(lookup, u"de_DE.UTF-8"_s);
-    EXPECT_TRUE(
-        german.output.startsWith(u"Abschnitt 3.2  Things to do last\n    Seite 4 bei 72, "_s))
-        << german.output.toStdString();
+    EXPECT_THAT(german.output, Begins(u"Abschnitt 3.2  Things to do last\n    Seite 4 bei 72, "_s));
     EXPECT_EQ(run({u"lookup"_s, u"9.9"_s}, u"de_DE.UTF-8"_s).errors, u"tavrin: 9.9: unbekannt\n"_s);
     EXPECT_EQ(run({u"search"_s, u"things"_s}, u"de_AT.UTF-8"_s).output.section(u'\n', -2, -2),
               u"6 Treffer"_s);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include <gmock/gmock.h>
+#include <support/Test.h>
 
 #include <QFile>
 
@@ -8,9 +8,6 @@
 #include <support/MapBuilder.h>
 
 #include "DraftedManual.h"
-
-using namespace Tavrin::Testing;
-using namespace Qt::StringLiterals;
 
 namespace
 {

@@ -1,13 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
-#include <gmock/gmock.h>
+#include <support/Test.h>
 
 #include <QFile>
 #include <QImage>
 
 #include "DraftedManual.h"
-
-using namespace Tavrin::Testing;
-using namespace Qt::StringLiterals;
 
 namespace
 {
@@ -49,7 +46,7 @@ TEST_F(PageCommands, DraftOfADocumentWithoutHeadingsWritesNothing)
     const QString map = files().path(u"blank.xml"_s);
     const ProgramRun run = runTavrin({u"draft"_s, files().path(u"blank.pdf"_s), u"-o"_s, map});
     EXPECT_EQ(run.exitCode, 1);
-    EXPECT_TRUE(run.errors.contains(u"no headings found"_s)) << run.errors.toStdString();
+    EXPECT_THAT(run.errors, Holds(u"no headings found"_s));
     EXPECT_FALSE(QFile::exists(map));
 }
 
@@ -78,8 +75,7 @@ TEST_F(PageCommands, CheckTellsWhichEntriesAreAtFault)
     const QString wrongTitle = changedMap("<name>Maintenance</name>", "<name>Dragons</name>");
     const ProgramRun title = runTavrin({u"check"_s, wrongTitle, u"--pdf"_s, pdf()});
     EXPECT_EQ(title.exitCode, 1);
-    EXPECT_TRUE(title.output.contains(u"title not on the page  Chapter 3  Dragons"_s))
-        << title.output.toStdString();
+    EXPECT_THAT(title.output, Holds(u"title not on the page  Chapter 3  Dragons"_s));
 
     const QString noPlace = changedMap("<internal>destination:3,72,6", "<internal>nowhere:3,72,6");
     const QJsonObject json =
@@ -96,7 +92,7 @@ TEST_F(PageCommands, CheckSaysThatThePDFIsAnother)
     const QString map = changedMap("verifier=\"Engine", "verifier=\"Ship");
     const ProgramRun run = runTavrin({u"check"_s, map, u"--pdf"_s, pdf(), u"--json"_s});
     EXPECT_EQ(run.exitCode, 1);
-    EXPECT_TRUE(run.errors.contains(u"verifier"_s)) << run.errors.toStdString();
+    EXPECT_THAT(run.errors, Holds(u"verifier"_s));
     EXPECT_EQ(run.object()[u"recognised"_s], false);
     EXPECT_EQ(run.object()[u"placed"_s], 9) << "the places are checked all the same";
 }
@@ -128,7 +124,7 @@ TEST_F(PageCommands, InspectWantsAPageOfTheDocument)
     for (const QString &page : {u"0"_s, u"-1"_s, u"two"_s, u"1.5"_s, u"99999999999"_s}) {
         const ProgramRun run = runTavrin({u"inspect"_s, pdf(), u"--page="_s + page});
         EXPECT_EQ(run.exitCode, 2) << page.toStdString();
-        EXPECT_TRUE(run.errors.contains(u"--page "_s + page)) << run.errors.toStdString();
+        EXPECT_THAT(run.errors, Holds(u"--page "_s + page));
     }
     EXPECT_EQ(runTavrin({u"inspect"_s, pdf(), u"--scale"_s, u"huge"_s}).exitCode, 2);
 }

@@ -6,6 +6,8 @@
 
 #include <stdexcept>
 
+#include <support/Test.h>
+
 namespace Tavrin::Testing
 {
 
@@ -31,6 +33,15 @@ QJsonObject ProgramRun::object() const
 QJsonArray ProgramRun::array() const
 {
     return parsed(output).array();
+}
+
+void expectRefusal(const ProgramRun &run, const QString &fault)
+{
+    SCOPED_TRACE(fault.toStdString());
+    EXPECT_EQ(run.exitCode, 2);
+    EXPECT_EQ(run.output, QString());
+    EXPECT_THAT(run.errors, AllOf(Begins(u"tavrin: "), Holds(fault)));
+    EXPECT_EQ(run.errors.count(u'\n'), 1) << run.errors.toStdString();
 }
 
 ProgramRun runTavrin(const QStringList &arguments, const QProcessEnvironment &environment)

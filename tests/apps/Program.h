@@ -22,6 +22,9 @@ struct ProgramRun {
     QJsonArray array() const;
 };
 
+/// Bad input: exit code 2, one line on standard error that names the fault, and nothing else.
+void expectRefusal(const ProgramRun &run, const QString &fault);
+
 /// Runs `tavrin` with these arguments, standard output and error being no terminal.
 ProgramRun runTavrin(const QStringList &arguments,
                      const QProcessEnvironment &environment =

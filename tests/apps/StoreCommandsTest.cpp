@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include <gmock/gmock.h>
+#include <support/Test.h>
 
 #include <sys/resource.h>
 
@@ -19,9 +19,6 @@
 #include <support/TemporaryFiles.h>
 
 #include "Program.h"
-
-using namespace Tavrin::Testing;
-using namespace Qt::StringLiterals;
 
 namespace
 {
@@ -121,10 +118,10 @@ TEST_F(StoreCommands, PreferThePDFOfTheCommandLine)
     files.write(u"data/tavrin/tavrin/report.pdf"_s, "broken since");
     const ProgramRun broken = runWithMaps(u"lookup"_s, {u"1"_s});
     EXPECT_EQ(broken.exitCode, 0);
-    EXPECT_TRUE(broken.output.contains(u"no PDF bound"_s)) << broken.output.toStdString();
+    EXPECT_THAT(broken.output, Holds(u"no PDF bound"_s));
     const ProgramRun named = runWithMaps(u"lookup"_s, {u"--pdf"_s, report, u"1"_s});
     EXPECT_EQ(named.exitCode, 0);
-    EXPECT_TRUE(named.output.contains(u"page 1 at 72, 512"_s)) << named.output.toStdString();
+    EXPECT_THAT(named.output, Holds(u"page 1 at 72, 512"_s));
     EXPECT_TRUE(named.errors.isEmpty()) << named.errors.toStdString();
     EXPECT_EQ(storeContents(), QStringList{u"report.pdf"_s}) << "and import nothing";
 
@@ -140,7 +137,7 @@ TEST_F(StoreCommands, PreferThePDFOfTheCommandLine)
     }
     const ProgramRun unbound = runWithMaps(u"at"_s, {u"--x"_s, u"1"_s, u"--y"_s, u"1"_s});
     EXPECT_EQ(unbound.exitCode, 2);
-    EXPECT_TRUE(unbound.errors.contains(u"no PDF is bound"_s)) << unbound.errors.toStdString();
+    EXPECT_THAT(unbound.errors, Holds(u"no PDF is bound"_s));
 }
 
 TEST_F(StoreCommands, SayWhatIsNotImported)
@@ -161,7 +158,7 @@ TEST_F(StoreCommands, SayWhatIsNotImported)
         const ProgramRun bad = runWithMaps(u"import"_s, {report, path});
         EXPECT_EQ(bad.exitCode, 2);
         EXPECT_TRUE(bad.output.isEmpty());
-        EXPECT_TRUE(bad.errors.contains(path)) << bad.errors.toStdString();
+        EXPECT_THAT(bad.errors, Holds(path));
         EXPECT_TRUE(storeContents().isEmpty()) << "nothing is copied before all are sound";
     }
 }
@@ -263,7 +260,7 @@ TEST_F(StoreCommands, SayThatThereIsNoRoom)
     EXPECT_EQ(process.exitCode(), 1);
     EXPECT_TRUE(process.readAllStandardOutput().isEmpty());
     const QByteArray errors = process.readAllStandardError();
-    EXPECT_TRUE(errors.contains("File too large")) << errors.constData();
-    EXPECT_TRUE(errors.endsWith("report.pdf: not imported\n")) << errors.constData();
+    EXPECT_THAT(errors, Holds("File too large"));
+    EXPECT_THAT(errors, Ends("report.pdf: not imported\n"));
     EXPECT_TRUE(storeContents().isEmpty());
 }

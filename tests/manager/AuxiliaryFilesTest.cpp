@@ -12,12 +12,6 @@
 
 #include "OpeningCounter.h"
 
-using namespace Tavrin;
-using namespace Tavrin::Testing;
-using namespace Qt::StringLiterals;
-using testing::ElementsAre;
-using testing::IsEmpty;
-
 namespace
 {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include <gmock/gmock.h>
+#include <support/Test.h>
 
 #include <Tavrin/manager/EntryFinder.h>
 #include <Tavrin/manager/SpecificationManager.h>
@@ -7,10 +7,6 @@
 
 namespace Tavrin::Testing
 {
-
-using namespace Qt::StringLiterals;
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 class EntryFinderTest : public testing::Test
 {

@@ -7,13 +7,6 @@
 
 #include "StoreFixture.h"
 
-using namespace Tavrin;
-using namespace Tavrin::Testing;
-using namespace Qt::StringLiterals;
-using testing::ElementsAre;
-using testing::IsEmpty;
-using testing::IsNull;
-
 namespace Tavrin
 {
 

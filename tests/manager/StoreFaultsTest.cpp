@@ -10,12 +10,6 @@
 
 #include "SmallDisk.h"
 
-using namespace Tavrin;
-using namespace Tavrin::Testing;
-using namespace Qt::StringLiterals;
-using testing::ElementsAre;
-using testing::IsEmpty;
-
 namespace
 {
 
@@ -31,7 +25,7 @@ protected:
         EXPECT_EQ(manager.registerAuxiliaryFile(source), source);
         const QStringList messages = log.takeMessages();
         ASSERT_EQ(messages.size(), 1);
-        EXPECT_TRUE(messages[0].contains(reason)) << messages[0].toStdString();
+        EXPECT_THAT(messages[0], Holds(reason));
         EXPECT_EQ(taker->auxiliaryFileRequirements().front()->fileURL, source);
         EXPECT_THAT(manager.auxiliaryFiles(), ElementsAre(source));
     }

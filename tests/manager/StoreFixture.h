@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <gmock/gmock.h>
+#include <support/Test.h>
 
 #include <QDir>
 
@@ -26,20 +26,19 @@ class StoreFixture : public testing::Test
 protected:
     StoreFixture()
     {
-        qputenv("XDG_DATA_HOME", files.path(QStringLiteral("data")).toLocal8Bit());
-        setHostIdentifier(QStringLiteral("host"));
+        qputenv("XDG_DATA_HOME", files.path(u"data"_s).toLocal8Bit());
+        setHostIdentifier(u"host"_s);
     }
     void TearDown() override { setHostIdentifier({}); }
 
     QString storePath(const QString &name = {}) const
     {
-        return files.path(QStringLiteral("data/tavrin/host")) +
-               (name.isEmpty() ? QString() : u'/' + name);
+        return files.path(u"data/tavrin/host"_s) + (name.isEmpty() ? QString() : u'/' + name);
     }
     QUrl storeUrl(const QString &name) const { return QUrl::fromLocalFile(storePath(name)); }
     QByteArray storedBytes(const QString &name) const
     {
-        return files.read(QStringLiteral("data/tavrin/host/") + name);
+        return files.read(u"data/tavrin/host/"_s + name);
     }
 
     /// Everything that lies in the store, hidden or not, by name.
@@ -50,8 +49,8 @@ protected:
 
     void writeMap(const QString &word) const
     {
-        sampleMap(word).write(files, QStringLiteral("maps/%1.xml").arg(word));
-        files.write(QStringLiteral("maps/%1.dtd").arg(word), MapBuilder::grammar());
+        sampleMap(word).write(files, u"maps/%1.xml"_s.arg(word));
+        files.write(u"maps/%1.dtd"_s.arg(word), MapBuilder::grammar());
     }
     QUrl writeDocument(const QString &word, const QString &name) const
     {
@@ -62,7 +61,7 @@ protected:
     std::unique_ptr<SpecificationManager> start() const
     {
         auto manager = std::make_unique<SpecificationManager>();
-        manager->loadSpecInformation(files.url(QStringLiteral("maps")));
+        manager->loadSpecInformation(files.url(u"maps"_s));
         return manager;
     }
 
@@ -92,8 +91,8 @@ public:
     {
         auto taker = Specification::make<Taker>();
         for (int i = 0; i < requirements; ++i)
-            taker->addAuxiliaryFileRequirement(std::make_shared<AuxiliaryFileRequirement>(
-                QStringLiteral("pdf"), QString(), QString()));
+            taker->addAuxiliaryFileRequirement(
+                std::make_shared<AuxiliaryFileRequirement>(u"pdf"_s, QString(), QString()));
         return taker;
     }
 
