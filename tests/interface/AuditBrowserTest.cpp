@@ -30,12 +30,7 @@
 
 #include "SharedManagerFixture.h"
 #include "SummaryFixture.h"
-
-using namespace Tavrin;
-using namespace Tavrin::Testing;
-using namespace Qt::StringLiterals;
-using testing::Contains;
-using testing::ElementsAre;
+#include "Windows.h"
 
 namespace
 {
@@ -49,6 +44,8 @@ protected:
     ~AuditBrowser() override
     {
         controller.reset();
+        if (gate)
+            gate->open();
         finishTasks(backgroundPool());
         QCoreApplication::sendPostedEvents();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -75,18 +72,32 @@ protected:
             components.push_back({text});
         open(QStringList(texts.size()), {u"Text"_s}, components);
     }
-    static bool waitFor(const std::function<bool()> &condition)
+    /// Begins an audit, in a window if there is one, that waits at an entry until `gate` opens.
+    void beginAudit(const QStringList &labels, const QString &heldUpAt, QWidget *window = nullptr)
     {
-        return QTest::qWaitFor(condition, 20'000);
+        bind();
+        gate = std::make_unique<Gate>(entry(heldUpAt));
+        controller = std::make_shared<Controller>(labels, specification);
+        if (window)
+            controller->view()->setParent(window);
+        controller->view()->window()->show();
+        ASSERT_TRUE(waitFor([] { return sheet() != nullptr; }));
+        gate->waitUntilReached();
     }
-    static ProgressSheet *sheet()
+    static ProgressSheet *sheet() { return shownWindow<ProgressSheet>(); }
+    Entry &entry(const QString &label) const
     {
-        for (QWidget *window : QApplication::topLevelWidgets()) {
-            auto *shown = qobject_cast<ProgressSheet *>(window);
-            if (shown && shown->isVisible())
-                return shown;
-        }
-        return nullptr;
+        return dynamic_cast<Entry &>(*specification->entry(label));
+    }
+    void keepDetails()
+    {
+        manager.setDetailViewControllerDisplayBlock(
+            [this](const ViewControllerPtr &view) { details.push_back(view); });
+    }
+    QString shownEntry(std::size_t detail) const
+    {
+        const auto *view = dynamic_cast<SpecDetailViewController *>(details.at(detail).get());
+        return view && view->entry() ? view->entry()->label() : QString();
     }
 
     QTableView &table() const { return *controller->tableView(); }
@@ -126,24 +137,30 @@ protected:
         const QPoint place(header.sectionViewportPosition(column) + 20, header.height() / 2);
         QTest::mouseClick(header.viewport(), Qt::LeftButton, {}, place);
     }
+    std::unique_ptr<QMenu> menu(QPoint place) const
+    {
+        QTest::mousePress(table().viewport(), Qt::RightButton, {}, place);
+        Q_EMIT table().customContextMenuRequested(place);
+        return std::unique_ptr<QMenu>(
+            table().findChild<QMenu *>(QString(), Qt::FindDirectChildrenOnly));
+    }
     /// The items of the context menu at a place, with whether they can be chosen.
     std::vector<std::pair<QString, bool>> menuItems(QPoint place) const
     {
-        QTest::mousePress(table().viewport(), Qt::RightButton, {}, place);
-        Q_EMIT controller->tableView()->customContextMenuRequested(place);
+        const auto shown = menu(place);
         std::vector<std::pair<QString, bool>> items;
-        const auto menus = table().findChildren<QMenu *>(Qt::FindDirectChildrenOnly);
-        for (const QAction *action : menus.isEmpty() ? QList<QAction *>() : menus[0]->actions()) {
+        for (const QAction *action : shown->actions()) {
             if (!action->isSeparator())
                 items.emplace_back(action->text(), action->isEnabled());
         }
-        qDeleteAll(menus);
         return items;
     }
     static QString clipboard() { return QGuiApplication::clipboard()->text(); }
 
     SpecificationManager &manager = SpecificationManager::shared();
     std::shared_ptr<Controller> controller;
+    std::unique_ptr<Gate> gate;
+    std::vector<ViewControllerPtr> details;
 };
 
 /// Its table is there, its file is not.
@@ -401,15 +418,11 @@ TEST_F(AuditBrowser, SortsByTheMenu)
 {
     openTexts({u"b"_s, u"a"_s});
     const auto choose = [this](const QString &title) {
-        Q_EMIT table().customContextMenuRequested({5, 5});
-        auto *menu = table().findChild<QMenu *>();
-        for (auto *sub : menu->findChildren<QMenu *>()) {
-            for (QAction *action : sub->actions()) {
-                if (action->text() == title)
-                    action->trigger();
-            }
+        const auto shown = menu({5, 5});
+        for (auto *action : shown->findChild<QMenu *>()->actions()) {
+            if (action->text() == title)
+                action->trigger();
         }
-        delete menu;
     };
     choose(u"Text"_s);
     EXPECT_EQ(column(4), (QStringList{u"a"_s, u"b"_s}));
@@ -510,16 +523,10 @@ TEST_F(AuditBrowser, OpensEntries)
     EXPECT_THAT(log.takeMessages(),
                 Contains(u"Tried to display a detail view controller, but the application hasn't "
                          "set up a detail view controller display block."_s));
-    std::vector<ViewControllerPtr> details;
-    manager.setDetailViewControllerDisplayBlock(
-        [&](const ViewControllerPtr &view) { details.push_back(view); });
-    const auto entryOf = [&](std::size_t at) {
-        auto *detail = dynamic_cast<SpecDetailViewController *>(details.at(at).get());
-        return detail && detail->entry() ? detail->entry()->label() : QString();
-    };
+    keepDetails();
     doubleClick(0, 0);
     ASSERT_EQ(details.size(), 1U);
-    EXPECT_EQ(entryOf(0), u"1.1"_s);
+    EXPECT_EQ(shownEntry(0), u"1.1"_s);
     EXPECT_EQ(log.takeMessages(), QStringList());
     doubleClick(1, 0);
     EXPECT_EQ(details.size(), 1U);
@@ -528,7 +535,7 @@ TEST_F(AuditBrowser, OpensEntries)
     QTest::keyClick(&table(), Qt::Key_Down);
     QTest::keyClick(&table(), Qt::Key_Return);
     ASSERT_EQ(details.size(), 2U);
-    EXPECT_EQ(entryOf(1), u"2.1"_s);
+    EXPECT_EQ(shownEntry(1), u"2.1"_s);
     QTest::mouseDClick(table().viewport(), Qt::LeftButton, {},
                        {20, table().viewport()->height() - 5});
     EXPECT_EQ(details.size(), 2U);
@@ -537,7 +544,7 @@ TEST_F(AuditBrowser, OpensEntries)
     QTest::keyClick(controller->searchField(), Qt::Key_Up);
     QTest::keyClick(controller->searchField(), Qt::Key_Return);
     ASSERT_EQ(details.size(), 3U);
-    EXPECT_EQ(entryOf(2), u"1.1"_s);
+    EXPECT_EQ(shownEntry(2), u"1.1"_s);
 }
 
 TEST_F(AuditBrowser, PromptsForWhatIsNotImported)
@@ -545,9 +552,7 @@ TEST_F(AuditBrowser, PromptsForWhatIsNotImported)
     specification = Specification::make<UnboundSpecification>();
     section(u"1.1"_s, u"Unseen"_s, 1, 700);
     open({u"1.1"_s});
-    std::vector<ViewControllerPtr> details;
-    manager.setDetailViewControllerDisplayBlock(
-        [&](const ViewControllerPtr &view) { details.push_back(view); });
+    keepDetails();
     doubleClick(0, 0);
     ASSERT_EQ(details.size(), 1U);
     EXPECT_TRUE(std::dynamic_pointer_cast<SpecErrorViewController>(details[0]));
@@ -557,18 +562,13 @@ TEST_F(AuditBrowser, PromptsForWhatIsNotImported)
 
 TEST_F(AuditBrowser, ShowsProgress)
 {
-    bind();
-    Gate gate(*std::dynamic_pointer_cast<Entry>(specification->entry(u"1.2"_s)));
-    controller = std::make_shared<Controller>(QStringList{u"1.1"_s, u"1.2"_s}, specification);
+    beginAudit({u"1.1"_s, u"1.2"_s}, u"1.2"_s);
     QSignalSpy audited(controller.get(), &Controller::audited);
-    controller->view()->show();
-    ASSERT_TRUE(waitFor([] { return sheet() != nullptr; }));
-    gate.waitUntilReached();
     EXPECT_EQ(sheet()->messageText(), u"Loading spec references…"_s);
     EXPECT_TRUE(waitFor([] { return sheet()->value() == 0.5; }));
     EXPECT_EQ(rows().columnCount(), 0);
     EXPECT_TRUE(controller->isAuditing());
-    gate.open();
+    gate->open();
     EXPECT_TRUE(waitFor([&] { return !audited.isEmpty(); }));
     EXPECT_EQ(sheet(), nullptr);
     EXPECT_FALSE(controller->isAuditing());
@@ -588,35 +588,22 @@ TEST_F(AuditBrowser, AuditsEachTimeThatItAppears)
 
 TEST_F(AuditBrowser, MayGoWhileItAudits)
 {
-    bind();
-    Gate gate(*std::dynamic_pointer_cast<Entry>(specification->entry(u"1.1"_s)));
     QWidget window;
-    controller = std::make_shared<Controller>(QStringList{u"1.1"_s, u"1.2"_s}, specification);
-    controller->view()->setParent(&window);
-    window.show();
-    ASSERT_TRUE(waitFor([] { return sheet() != nullptr; }));
-    gate.waitUntilReached();
+    beginAudit({u"1.1"_s, u"1.2"_s}, u"1.1"_s, &window);
     controller.reset();
     EXPECT_EQ(sheet(), nullptr) << "the window can be used again";
-    gate.open();
+    gate->open();
     finishTasks(backgroundPool());
     QCoreApplication::processEvents();
-    const auto unread = std::dynamic_pointer_cast<Entry>(specification->entry(u"1.2"_s));
-    EXPECT_TRUE(unread->needsComputeDisplay()) << "the audit was given up";
+    EXPECT_TRUE(entry(u"1.2"_s).needsComputeDisplay()) << "the audit was given up";
 }
 
 TEST_F(AuditBrowser, MayOutliveItsWindow)
 {
-    bind();
-    Gate gate(*std::dynamic_pointer_cast<Entry>(specification->entry(u"1.1"_s)));
     auto window = std::make_unique<QWidget>();
-    controller = std::make_shared<Controller>(QStringList{u"1.1"_s}, specification);
-    controller->view()->setParent(window.get());
-    window->show();
-    ASSERT_TRUE(waitFor([] { return sheet() != nullptr; }));
-    gate.waitUntilReached();
+    beginAudit({u"1.1"_s}, u"1.1"_s, window.get());
     window.reset();
-    gate.open();
+    gate->open();
     EXPECT_TRUE(waitFor([this] { return !controller->isAuditing(); }));
     EXPECT_EQ(controller->tableView(), nullptr);
 }
@@ -692,15 +679,9 @@ TEST_F(AuditBrowser, WritesAReport)
 
 TEST_F(AuditBrowser, ShowsARealDocument)
 {
-    const auto document = corpusFile(u"slepc.pdf"_s);
-    if (!document)
+    specification = bindCorpusSample(manager, u"slepc"_s);
+    if (!specification)
         GTEST_SKIP() << noCorpus;
-    const QString samples = QStringLiteral(TAVRIN_SAMPLES);
-    manager.registerSpecification(QUrl::fromLocalFile(samples + u"/slepc.xml"_s),
-                                  QUrl::fromLocalFile(samples + u"/spec.dtd"_s));
-    specification = std::dynamic_pointer_cast<PDFSpecification>(
-        manager.bindAuxiliaryFile(QUrl::fromLocalFile(*document)));
-    ASSERT_TRUE(specification);
     specification->entry(QString());
     QStringList labels;
     for (const auto &entry : specification->entries())
@@ -713,12 +694,9 @@ TEST_F(AuditBrowser, ShowsARealDocument)
     EXPECT_LT(rows().rowCount(), labels.size());
     for (const QString &text : column(1) + column(0))
         EXPECT_FALSE(text.contains(u'"'));
-    std::vector<ViewControllerPtr> details;
-    manager.setDetailViewControllerDisplayBlock(
-        [&](const ViewControllerPtr &view) { details.push_back(view); });
+    keepDetails();
     doubleClick(0, 0);
     ASSERT_EQ(details.size(), 1U);
-    const auto detail = std::dynamic_pointer_cast<SpecPDFViewController>(details[0]);
-    ASSERT_TRUE(detail);
-    EXPECT_EQ(detail->entry()->label(), column(3).front());
+    EXPECT_TRUE(std::dynamic_pointer_cast<SpecPDFViewController>(details[0]));
+    EXPECT_EQ(shownEntry(0), column(3).front());
 }

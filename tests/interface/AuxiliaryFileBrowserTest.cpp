@@ -28,14 +28,6 @@
 
 #include "SharedManagerFixture.h"
 
-using namespace Tavrin;
-using namespace Tavrin::Testing;
-using namespace Qt::StringLiterals;
-using testing::ElementsAre;
-using testing::IsEmpty;
-using testing::IsNull;
-using testing::NotNull;
-
 namespace
 {
 
@@ -375,8 +367,7 @@ TEST_F(Browser, OpensRowsByButtonDoubleClickAndKey)
 {
     manager.setAuxiliaryFiles({files.url(u"stray.pdf"_s)});
     addSpecification(u"alpha"_s);
-    addSpecification(u"beta"_s);
-    import(u"beta"_s);
+    addImported(u"beta"_s);
     show();
     QTest::mouseClick(viewButton(1), Qt::LeftButton);
     click(1);
@@ -407,8 +398,7 @@ TEST_F(Browser, KeepsTheSelectionWhenFilesCome)
 {
     manager.setAuxiliaryFiles({files.url(u"stray.pdf"_s), files.url(u"other.pdf"_s)});
     addSpecification(u"alpha"_s);
-    addSpecification(u"beta"_s);
-    import(u"beta"_s);
+    addImported(u"beta"_s);
     show();
     click(1);
     click(3, Qt::ControlModifier);

@@ -43,15 +43,13 @@ protected:
                                             const QStringList &titles)
     {
         MapBuilder map(identifier, revision);
-        map.title(QStringLiteral("The ") + identifier)
-            .attribute(QStringLiteral("revision"), revision);
+        map.title(u"The "_s + identifier).attribute(u"revision"_s, revision);
         for (qsizetype i = 0; i < titles.size(); ++i) {
             const QString number = QString::number(i + 1);
             map.entry({.label = number, .index = number, .name = titles[i]});
         }
-        manager.registerSpecification(
-            map.write(files, QStringLiteral("maps/%1.xml").arg(identifier)),
-            files.url(QStringLiteral("spec.dtd")));
+        manager.registerSpecification(map.write(files, u"maps/%1.xml"_s.arg(identifier)),
+                                      files.url(u"spec.dtd"_s));
         auto made = specification(identifier);
         made->loadStructure();
         return made;

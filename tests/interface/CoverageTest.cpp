@@ -1,19 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 // Marks of what references cover: how they merge, and how they come onto the pages.
 #include <Tavrin/interface/detail/CoverageMarks.h>
-#include <Tavrin/platform/PoolTask.h>
-#include <support/FinishTasks.h>
-
-#include <condition_variable>
 
 #include "DetailFixture.h"
-
-using namespace Tavrin;
-using namespace Tavrin::Testing;
-using namespace Qt::StringLiterals;
-using testing::ElementsAre;
-using testing::Pair;
-using testing::UnorderedElementsAre;
+#include "PoolGate.h"
 
 namespace
 {
@@ -57,37 +47,6 @@ TEST(CoverageMarksTest, AChainMergesAndOneInsideAnotherAddsNothing)
     EXPECT_THAT(marks.merged(), ElementsAre(Pair(3, ElementsAre(strip(100, 90)))));
 }
 
-/// Has the pool's threads wait until it is opened, so that nothing in the background begins.
-class PoolGate
-{
-public:
-    PoolGate()
-    {
-        for (int i = 0; i < backgroundPool().maxThreadCount(); ++i) {
-            startTask(backgroundPool(), [this] {
-                std::unique_lock lock(m_mutex);
-                m_changed.wait(lock, [this] { return m_isOpen; });
-            });
-        }
-    }
-    ~PoolGate()
-    {
-        open();
-        finishTasks(backgroundPool());
-    }
-    void open()
-    {
-        const std::lock_guard lock(m_mutex);
-        m_isOpen = true;
-        m_changed.notify_all();
-    }
-
-private:
-    std::mutex m_mutex;
-    std::condition_variable m_changed;
-    bool m_isOpen = false;
-};
-
 class CoverageTest : public DetailFixture
 {
 protected:
@@ -103,19 +62,26 @@ protected:
             references.push_back({label, u"here"_s});
         controller->setReferenceCoverage(references);
     }
-    bool waitForSheet()
+    /// Shows the view with the sheet over it, until `gate` opens.
+    void showHeldUp()
     {
-        return QTest::qWaitFor([] { return sheet() != nullptr; });
+        gate = std::make_unique<PoolGate>();
+        show();
+        ASSERT_TRUE(waitForSheet());
     }
+    static bool waitForSheet()
+    {
+        return waitFor([] { return sheet() != nullptr; });
+    }
+
+    std::unique_ptr<PoolGate> gate;
 };
 
 TEST_F(CoverageTest, EntriesAreMarkedWhenTheViewAppearsUnderASheet)
 {
     cover({u"1"_s, u"2"_s, u"9"_s, u"nothing"_s, u"Figure 1"_s});
     LogCapture log("tavrin.interface");
-    auto gate = std::make_unique<PoolGate>();
-    show();
-    ASSERT_TRUE(waitForSheet());
+    showHeldUp();
     EXPECT_EQ(sheet()->messageText(), u"Highlighting spec coverage…"_s);
     EXPECT_EQ(sheet()->value(), 0.0);
     // It can't be cancelled.
@@ -149,9 +115,7 @@ TEST_F(CoverageTest, EachAppearanceRunsIt)
 TEST_F(CoverageTest, NoReferencesOpenAndCloseTheSheetAndLeaveNoMarks)
 {
     cover({});
-    auto gate = std::make_unique<PoolGate>();
-    show();
-    ASSERT_TRUE(waitForSheet());
+    showHeldUp();
     gate.reset();
     ASSERT_TRUE(waitForCoverage());
     EXPECT_TRUE(coverage()->empty());
@@ -182,9 +146,7 @@ TEST_F(CoverageTest, WithoutReferencesTheSheetStaysAndLetsTheReaderGo)
 TEST_F(CoverageTest, NothingIsDeliveredToAViewThatIsGone)
 {
     cover({u"1"_s, u"2"_s});
-    auto gate = std::make_unique<PoolGate>();
-    show();
-    ASSERT_TRUE(waitForSheet());
+    showHeldUp();
     const std::weak_ptr<Controller> gone = controller;
     controller.reset();
     EXPECT_TRUE(gone.expired());
@@ -196,7 +158,7 @@ TEST_F(CoverageTest, NothingIsDeliveredToAViewThatIsGone)
 TEST_F(CoverageTest, AWindowThatClosesMeanwhileTakesTheSheetAlong)
 {
     cover({u"1"_s});
-    auto gate = std::make_unique<PoolGate>();
+    gate = std::make_unique<PoolGate>();
     auto window = std::make_unique<QWidget>();
     auto *column = new QVBoxLayout(window.get());
     column->addWidget(controller->view());
@@ -212,9 +174,7 @@ TEST_F(CoverageTest, AWindowThatClosesMeanwhileTakesTheSheetAlong)
 TEST_F(CoverageTest, AnotherFileMeanwhileMakesTheRunWorthless)
 {
     cover({u"1"_s, u"2"_s});
-    auto gate = std::make_unique<PoolGate>();
-    show();
-    ASSERT_TRUE(waitForSheet());
+    showHeldUp();
     specification->loadPDFStructure(CachingPDFDocument::open(pdf.build()));
     gate.reset();
     ASSERT_TRUE(QTest::qWaitFor([] { return !sheet(); }));
@@ -224,9 +184,7 @@ TEST_F(CoverageTest, AnotherFileMeanwhileMakesTheRunWorthless)
 TEST_F(CoverageTest, ALaterRunReplacesOneUnderWay)
 {
     cover({u"1"_s});
-    auto gate = std::make_unique<PoolGate>();
-    show();
-    ASSERT_TRUE(waitForSheet());
+    showHeldUp();
     cover({u"Figure 1"_s});
     controller->highlightReferenceCoverage();
     gate.reset();

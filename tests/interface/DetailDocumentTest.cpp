@@ -7,11 +7,6 @@
 
 #include "DetailFixture.h"
 
-using namespace Tavrin;
-using namespace Tavrin::Testing;
-using namespace Qt::StringLiterals;
-using testing::ElementsAre;
-
 namespace
 {
 

@@ -20,6 +20,8 @@
 #include <support/FinishTasks.h>
 #include <support/LogCapture.h>
 
+#include "Windows.h"
+
 namespace Tavrin::Testing
 {
 
@@ -96,24 +98,21 @@ protected:
     DetailFixture()
     {
         addPages(4);
-        page(1)
-            .text(left, 720, QStringLiteral("1 Scope"), heading)
-            .column(left, 700, 12, lines(QStringLiteral("scope"), 4), body)
-            .text(left, 600, QStringLiteral("2 Terms"), heading)
-            .column(left, 580, 12, lines(QStringLiteral("terms"), 4), body);
+        printSection(1, 720, u"1 Scope"_s, u"scope"_s, 4)
+            .text(left, 600, u"2 Terms"_s, heading)
+            .column(left, 580, 12, lines(u"terms"_s, 4), body);
         page(2)
-            .column(left, 700, 12, lines(QStringLiteral("rest"), 4), body)
+            .column(left, 700, 12, lines(u"rest"_s, 4), body)
             .fill({{150, 300}, {200, 100}}, qRgb(200, 40, 40))
-            .text(200, 280, QStringLiteral("Figure 1: Red"), body);
-        page(3).text(left, 720, QStringLiteral("3 End"), heading);
-        scope = section(QStringLiteral("1"), QStringLiteral("Scope"), 1, 740);
-        terms = section(QStringLiteral("2"), QStringLiteral("Terms"), 1, 620);
-        red = figure(QStringLiteral("Figure 1"), QStringLiteral("Red"), 2, 405);
-        end = section(QStringLiteral("3"), QStringLiteral("End"), 3, 740);
-        nowhere = add(QStringLiteral("9"), QStringLiteral("Nowhere"),
-                      SpecificationEntryType::Section, QStringLiteral("outline:missing"));
-        specification->setTitle(QStringLiteral("A Specification"));
-        specification->setShortTitle(QStringLiteral("Spec"));
+            .text(200, 280, u"Figure 1: Red"_s, body);
+        page(3).text(left, 720, u"3 End"_s, heading);
+        scope = section(u"1"_s, u"Scope"_s, 1, 740);
+        terms = section(u"2"_s, u"Terms"_s, 1, 620);
+        red = figure(u"Figure 1"_s, u"Red"_s, 2, 405);
+        end = section(u"3"_s, u"End"_s, 3, 740);
+        nowhere = add(u"9"_s, u"Nowhere"_s, SpecificationEntryType::Section, u"outline:missing"_s);
+        specification->setTitle(u"A Specification"_s);
+        specification->setShortTitle(u"Spec"_s);
         bind();
         QSettings().clear();
     }
@@ -142,13 +141,12 @@ protected:
     }
     void settle()
     {
-        ASSERT_TRUE(QTest::qWaitFor(
-            [this] { return view().isFullyDrawn() && view().textOf(view().currentPage()); },
-            10'000));
+        ASSERT_TRUE(waitFor(
+            [this] { return view().isFullyDrawn() && view().textOf(view().currentPage()); }));
     }
     bool waitForCoverage()
     {
-        return QTest::qWaitFor([this] { return coverage().has_value() && !sheet(); }, 10'000);
+        return waitFor([this] { return coverage().has_value() && !sheet(); });
     }
 
     EntryHighlightPDFView &view() const { return controller->viewer()->pdfView(); }
@@ -158,16 +156,7 @@ protected:
     }
     DetailView &detail() const { return static_cast<DetailView &>(*controller->view()); }
     QString notice() const { return detail().noticeBar().text(); }
-    /// The one over the window; null if there is none.
-    static ProgressSheet *sheet()
-    {
-        for (QWidget *window : QApplication::topLevelWidgets()) {
-            auto *sheet = qobject_cast<ProgressSheet *>(window);
-            if (sheet && sheet->isVisible())
-                return sheet;
-        }
-        return nullptr;
-    }
+    static ProgressSheet *sheet() { return shownWindow<ProgressSheet>(); }
     /// Whether a place is at the top of the view.
     bool isAtTop(const EntryPtr &entry) const
     {

@@ -12,10 +12,6 @@
 
 #include "DetailFixture.h"
 
-using namespace Tavrin;
-using namespace Tavrin::Testing;
-using namespace Qt::StringLiterals;
-
 namespace
 {
 
@@ -52,7 +48,7 @@ TEST_F(DetailToolBarTest, EveryCommandHasANameATipAndAPicture)
         EXPECT_FALSE(action->text().isEmpty());
         EXPECT_FALSE(button->toolTip().isEmpty());
         const QString keys = action->shortcut().toString(QKeySequence::NativeText);
-        EXPECT_TRUE(button->toolTip().contains(keys)) << button->toolTip().toStdString();
+        EXPECT_THAT(button->toolTip(), Holds(keys));
         if (!action->menu()) {
             const QImage icon = action->icon().pixmap(32, 32).toImage();
             EXPECT_NE(icon, QImage(icon.size(), icon.format())) << action->text().toStdString();

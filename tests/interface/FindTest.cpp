@@ -7,10 +7,6 @@
 
 #include "ViewFixture.h"
 
-using namespace Tavrin;
-using namespace Tavrin::Testing;
-using namespace Qt::StringLiterals;
-
 namespace
 {
 

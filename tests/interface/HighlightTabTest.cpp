@@ -9,11 +9,7 @@
 #include <QStackedWidget>
 #include <QTest>
 
-#include <gmock/gmock.h>
-
-using namespace Tavrin;
-using namespace Qt::StringLiterals;
-using testing::ElementsAre;
+#include <support/Test.h>
 
 namespace
 {

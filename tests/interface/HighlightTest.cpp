@@ -2,10 +2,6 @@
 // What is drawn over the pages.
 #include "ViewFixture.h"
 
-using namespace Tavrin;
-using namespace Tavrin::Testing;
-using namespace Qt::StringLiterals;
-
 namespace
 {
 

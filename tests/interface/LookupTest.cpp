@@ -18,14 +18,6 @@
 
 #include "SharedManagerFixture.h"
 
-using namespace Tavrin;
-using namespace Tavrin::Testing;
-using namespace Qt::StringLiterals;
-using testing::ElementsAre;
-using testing::IsEmpty;
-using testing::IsNull;
-using testing::NotNull;
-
 namespace
 {
 
@@ -112,23 +104,6 @@ TEST_F(LookupViews, HaveThePrimarySpecificationMeasuredInTheBackground)
     EXPECT_EQ(primary->times, 1);
 }
 
-TEST_F(LookupViews, ShowNothingForAWrongLabelAndAPromptWithoutDocuments)
-{
-    addSpecification(u"alpha"_s);
-    auto *prompt = as<SpecErrorViewController>(manager.summaryLookup(u"1"_s));
-    EXPECT_THAT(prompt, NotNull());
-    import(u"alpha"_s);
-    LogCapture log("tavrin");
-    const auto view = manager.summaryLookup(u"nonsense"_s);
-    auto *empty = as<SpecEntrySummaryViewController>(view);
-    ASSERT_THAT(empty, NotNull());
-    EXPECT_THAT(empty->entry(), IsNull());
-    EXPECT_EQ(empty->view()->sizeHint().isEmpty(), false);
-    EXPECT_FALSE(empty->noContentView()->isHidden());
-    EXPECT_THAT(log.takeMessages(),
-                ElementsAre(u"Could not find label nonsense in any specification"_s));
-}
-
 TEST_F(LookupViews, LeadFromEachPromptToTheBrowser)
 {
     manager.setAuxiliaryFileBrowserHelpText(u"Ask the librarian."_s);
@@ -155,24 +130,6 @@ TEST_F(LookupViews, LeadFromEachPromptToTheBrowser)
     EXPECT_TRUE(prompt->view()->findChild<QPushButton *>()->isHidden());
     EXPECT_EQ(as<SpecErrorViewController>(prompt)->messageText(),
               u"You have not imported a spec for this reference."_s);
-}
-
-TEST_F(LookupViews, ShowDetailViewsOfEntriesAndSpecifications)
-{
-    const auto alpha = addSpecification(u"alpha"_s);
-    import(u"alpha"_s);
-    manager.showDetailViewController(u"spec://1/alpha/1"_s);
-    manager.showDetailViewController(alpha);
-    ASSERT_EQ(details.size(), 2U);
-    EXPECT_EQ(as<SpecPDFViewController>(details[0])->entry(), alpha->entry(u"1"_s));
-    EXPECT_THAT(as<SpecPDFViewController>(details[1])->entry(), IsNull());
-    EXPECT_EQ(as<SpecPDFViewController>(details[1])->specification(), alpha);
-    EXPECT_EQ(manager.currentDetailViewController(), details[1]);
-    const auto another = manager.detailLookup(alpha->entry(u"1"_s));
-    EXPECT_EQ(as<SpecPDFViewController>(another)->entry(), alpha->entry(u"1"_s));
-    EXPECT_EQ(manager.currentDetailViewController(), details[1]);
-    details.clear();
-    EXPECT_THAT(manager.currentDetailViewController(), IsNull());
 }
 
 TEST_F(LookupViews, MarkCoverageWhenTheyAppear)

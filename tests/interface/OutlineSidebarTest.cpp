@@ -4,7 +4,7 @@
 #include <QTest>
 #include <QTreeView>
 
-#include <gmock/gmock.h>
+#include <support/Test.h>
 
 #include <Tavrin/interface/sidebars/OutlineItem.h>
 #include <Tavrin/interface/sidebars/SpecPDFOutlineViewController.h>
@@ -13,11 +13,6 @@
 
 #include "ListeningDelegate.h"
 
-using namespace Tavrin;
-using namespace Tavrin::Testing;
-using namespace Qt::StringLiterals;
-using testing::ElementsAre;
-using testing::IsEmpty;
 using Node = Tavrin::Testing::OutlineItem;
 
 namespace

@@ -8,8 +8,6 @@
 
 #include "ViewFixture.h"
 
-using namespace Tavrin;
-using namespace Tavrin::Testing;
 using namespace std::chrono_literals;
 
 namespace

@@ -19,12 +19,6 @@
 
 #include "SummaryFixture.h"
 
-using namespace Tavrin;
-using namespace Tavrin::Testing;
-using namespace Qt::StringLiterals;
-using testing::ElementsAre;
-using testing::IsEmpty;
-
 namespace
 {
 

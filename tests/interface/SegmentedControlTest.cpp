@@ -6,14 +6,9 @@
 #include <QTest>
 #include <QToolButton>
 
-#include <gmock/gmock.h>
+#include <support/Test.h>
 
 #include <Tavrin/interface/toolkit/SegmentedControl.h>
-
-using namespace Tavrin;
-using namespace Qt::StringLiterals;
-using testing::ElementsAre;
-using testing::IsNull;
 
 namespace
 {

@@ -4,7 +4,7 @@
 #include <QSignalSpy>
 #include <QTest>
 
-#include <gmock/gmock.h>
+#include <support/Test.h>
 
 #include <memory>
 #include <vector>
@@ -26,8 +26,8 @@ class SharedManagerFixture : public testing::Test
 protected:
     SharedManagerFixture()
     {
-        qputenv("XDG_DATA_HOME", files.path(QStringLiteral("data")).toLocal8Bit());
-        setHostIdentifier(QStringLiteral("host"));
+        qputenv("XDG_DATA_HOME", files.path(u"data"_s).toLocal8Bit());
+        setHostIdentifier(u"host"_s);
         manager.setSpecifications({});
         manager.setAuxiliaryFiles({});
         manager.setDetailViewControllerDisplayBlock(
@@ -50,9 +50,8 @@ protected:
 
     std::shared_ptr<Specification> addSpecification(const QString &word)
     {
-        manager.registerSpecification(
-            sampleMap(word).write(files, QStringLiteral("maps/%1.xml").arg(word)),
-            files.url(QStringLiteral("spec.dtd")));
+        manager.registerSpecification(sampleMap(word).write(files, u"maps/%1.xml"_s.arg(word)),
+                                      files.url(u"spec.dtd"_s));
         return specification(word);
     }
     /// The one that is registered now: a removed file leaves another object.
@@ -67,7 +66,15 @@ protected:
     }
     QUrl import(const QString &word)
     {
-        return manager.registerAuxiliaryFile(writeDocument(word, word + QStringLiteral(".pdf")));
+        return manager.registerAuxiliaryFile(writeDocument(word, word + u".pdf"_s));
+    }
+
+    /// One that is registered and has its document.
+    std::shared_ptr<Specification> addImported(const QString &word)
+    {
+        addSpecification(word);
+        import(word);
+        return specification(word);
     }
 
     TemporaryFiles files;

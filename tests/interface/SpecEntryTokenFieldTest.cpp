@@ -13,12 +13,6 @@
 
 #include "CitingFixture.h"
 
-using namespace Tavrin;
-using namespace Tavrin::Testing;
-using namespace Qt::StringLiterals;
-using testing::ElementsAre;
-using testing::IsEmpty;
-
 namespace
 {
 

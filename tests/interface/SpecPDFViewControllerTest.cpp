@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
 // The detail view: which entry is current, what is outlined, and who is told.
-#include <QDesktopServices>
 #include <QSplitter>
 
 #include <support/Corpus.h>
@@ -10,37 +9,10 @@
 #include <Tavrin/manager/SpecificationManager.h>
 
 #include "DetailFixture.h"
-
-using namespace Tavrin;
-using namespace Tavrin::Testing;
-using namespace Qt::StringLiterals;
-using testing::ElementsAre;
-using testing::IsEmpty;
+#include "LinkOpener.h"
 
 namespace
 {
-
-/// Stands in for what opens links on the desktop.
-class LinkOpener : public QObject
-{
-    Q_OBJECT
-
-public:
-    LinkOpener()
-    {
-        for (const auto &scheme : {u"https"_s, u"file"_s})
-            QDesktopServices::setUrlHandler(scheme, this, "open");
-    }
-    ~LinkOpener() override
-    {
-        for (const auto &scheme : {u"https"_s, u"file"_s})
-            QDesktopServices::unsetUrlHandler(scheme);
-    }
-    QStringList opened;
-
-public Q_SLOTS:
-    void open(const QUrl &url) { opened += url.toString(); }
-};
 
 class SpecPDFViewControllerTest : public DetailFixture
 {
@@ -305,7 +277,7 @@ TEST_F(SpecPDFViewControllerTest, AfterItsWindowHasGoneAllOperationsAreHarmless)
 
 TEST_F(SpecPDFViewControllerTest, LinksOutOfTheDocumentOpenOnlyWhereTheyAreSafe)
 {
-    const LinkOpener opener;
+    const LinkOpener opener({u"https"_s, u"file"_s});
     controller->setSpecification(specification);
     show();
     Q_EMIT view().linkActivated(QUrl(u"https://example.org/a"_s));
@@ -336,15 +308,10 @@ TEST_F(SpecPDFViewControllerTest, F6SwitchesBetweenSidebarAndDocument)
 /// A real document.
 TEST(SpecPDFViewControllerCorpusTest, OpeningAtAnEntryShowsItsHighlight)
 {
-    const auto path = corpusFile(u"slepc.pdf"_s);
-    if (!path)
-        GTEST_SKIP() << noCorpus;
     SpecificationManager manager;
-    const QString samples = QStringLiteral(TAVRIN_SAMPLES);
-    manager.registerSpecification(QUrl::fromLocalFile(samples + u"/slepc.xml"_s),
-                                  QUrl::fromLocalFile(samples + u"/spec.dtd"_s));
-    const auto specification = std::dynamic_pointer_cast<PDFSpecification>(
-        manager.bindAuxiliaryFile(QUrl::fromLocalFile(*path)));
+    const auto specification = bindCorpusSample(manager, u"slepc"_s);
+    if (!specification)
+        GTEST_SKIP() << noCorpus;
     const auto entry = specification->entry(u"2.3"_s);
     ASSERT_TRUE(entry);
     const auto controller = SpecPDFViewController::make(SpecPDFViewController::EntryPtr());
@@ -372,5 +339,3 @@ TEST(SpecPDFViewControllerCorpusTest, OpeningAtAnEntryShowsItsHighlight)
 }
 
 } // namespace
-
-#include "SpecPDFViewControllerTest.moc"

@@ -4,11 +4,6 @@
 
 #include "ViewFixture.h"
 
-using namespace Tavrin;
-using namespace Tavrin::Testing;
-using namespace Qt::StringLiterals;
-using testing::ElementsAre;
-
 namespace
 {
 

@@ -28,21 +28,19 @@ protected:
     SummaryFixture()
     {
         addPages(4);
-        page(1)
-            .text(left, 720, QStringLiteral("1 Scope"), heading)
-            .column(left, 700, 12, lines(QStringLiteral("scope"), 4), body);
+        printSection(1, 720, u"1 Scope"_s, u"scope"_s, 4);
         page(1)
             .fill({{150, 100}, {200, 100}}, qRgb(200, 40, 40))
-            .text(200, 80, QStringLiteral("Figure 1: Red"), body);
+            .text(200, 80, u"Figure 1: Red"_s, body);
         page(2)
-            .column(left, 700, 12, lines(QStringLiteral("rest"), 4), body)
+            .column(left, 700, 12, lines(u"rest"_s, 4), body)
             .fill({{20, 100}, {570, 200}}, qRgb(40, 40, 200))
-            .text(200, 80, QStringLiteral("Figure 2: Blue"), body);
-        scope = section(QStringLiteral("1.1"), QStringLiteral("Scope"), 1, 740);
-        red = figure(QStringLiteral("Figure 1"), QStringLiteral("Red"), 1, 205);
-        blue = figure(QStringLiteral("Figure 2"), QStringLiteral("Blue"), 2, 310);
+            .text(200, 80, u"Figure 2: Blue"_s, body);
+        scope = section(u"1.1"_s, u"Scope"_s, 1, 740);
+        red = figure(u"Figure 1"_s, u"Red"_s, 1, 205);
+        blue = figure(u"Figure 2"_s, u"Blue"_s, 2, 310);
         scope->setRelatedEntries({red->label(), blue->label()});
-        specification->setTitle(QStringLiteral("A Specification"));
+        specification->setTitle(u"A Specification"_s);
     }
     void TearDown() override
     {

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <QClipboard>
-#include <QDesktopServices>
 #include <QScrollBar>
 
 #include <Tavrin/interface/summary/DisplayComputation.h>
@@ -9,30 +8,13 @@
 #include <support/FinishTasks.h>
 #include <support/LogCapture.h>
 
+#include "LinkOpener.h"
 #include "SummaryFixture.h"
-
-using namespace Tavrin;
-using namespace Tavrin::Testing;
-using namespace Qt::StringLiterals;
-using testing::ElementsAre;
 
 namespace
 {
 
 using Controller = SpecEntrySummaryViewController;
-
-class URLOpener : public QObject
-{
-    Q_OBJECT
-
-public:
-    URLOpener() { QDesktopServices::setUrlHandler(u"host"_s, this, "open"); }
-    ~URLOpener() override { QDesktopServices::unsetUrlHandler(u"host"_s); }
-    QStringList opened;
-
-public Q_SLOTS:
-    void open(const QUrl &url) { opened += url.toString(); }
-};
 
 StyledText sentence(qsizetype length, qsizetype mark = -1)
 {
@@ -250,7 +232,7 @@ TEST_F(Summary, OpensOrRefusesOtherDestinations)
     bind();
     Controller controller(scope);
     QSignalSpy followed(&controller, &Controller::detailViewRequested);
-    URLOpener opener;
+    const LinkOpener opener({u"host"_s});
     const LogCapture log("tavrin");
     controller.summaryCellClickedLink(u"host:some/place"_s);
     EXPECT_THAT(opener.opened, ElementsAre(u"host:some/place"_s));
@@ -389,16 +371,13 @@ TEST_F(Summary, ShowsLessWhereThereIsNoPlaceOrNothingToReadIt)
 
 TEST_F(Summary, OfARealDocumentFits)
 {
-    const auto document = corpusFile(u"slepc.pdf"_s);
-    if (!document)
-        GTEST_SKIP() << noCorpus;
     SpecificationManager manager;
-    manager.registerSpecification(QUrl::fromLocalFile(QStringLiteral(TAVRIN_SAMPLES "/slepc.xml")),
-                                  QUrl::fromLocalFile(QStringLiteral(TAVRIN_SAMPLES "/spec.dtd")));
-    manager.registerAuxiliaryFile(QUrl::fromLocalFile(*document));
+    const auto sample = bindCorpusSample(manager, u"slepc"_s);
+    if (!sample)
+        GTEST_SKIP() << noCorpus;
     int images = 0;
     int summaries = 0;
-    for (const auto &entry : manager.primarySpecification()->entries()) {
+    for (const auto &entry : sample->entries()) {
         if ((images + summaries) > 30)
             break;
         Controller controller(entry);
@@ -413,5 +392,3 @@ TEST_F(Summary, OfARealDocumentFits)
     }
     EXPECT_GT(summaries, 10);
 }
-
-#include "SummaryTest.moc"

@@ -5,11 +5,9 @@
 #include <thread>
 #include <vector>
 
-#include <gmock/gmock.h>
+#include <support/Test.h>
 
 #include <Tavrin/interface/sidebars/ThreadSafeQueue.h>
-
-using namespace Tavrin;
 
 TEST(ThreadSafeQueue, GivesBackInOrderAndForgetsWhatIsRemoved)
 {

@@ -10,7 +10,7 @@
 #include <QTest>
 #include <QVBoxLayout>
 
-#include <gmock/gmock.h>
+#include <support/Test.h>
 
 #include <Tavrin/interface/tokens/TokenCompleter.h>
 #include <Tavrin/interface/tokens/TokenEditor.h>
@@ -53,7 +53,7 @@ public:
         return &cityMenu;
     }
 
-    QStringList names = {QStringLiteral("Paris"), QStringLiteral("Padua"), QStringLiteral("Oslo")};
+    QStringList names = {u"Paris"_s, u"Padua"_s, u"Oslo"_s};
     int selectedIndex = -1;
     QStringList asked;
     QMenu cityMenu;
@@ -74,7 +74,7 @@ protected:
     {
         auto *layout = new QVBoxLayout(&window);
         field = new TokenField(&window);
-        other = new QPushButton(QStringLiteral("Other"), &window);
+        other = new QPushButton(u"Other"_s, &window);
         layout->addWidget(field);
         layout->addWidget(other);
         layout->addStretch();

@@ -8,11 +8,6 @@
 
 #include "TokenFieldFixture.h"
 
-using namespace Tavrin;
-using namespace Tavrin::Testing;
-using namespace Qt::StringLiterals;
-using testing::ElementsAre;
-
 namespace
 {
 

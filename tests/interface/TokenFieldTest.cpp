@@ -4,12 +4,6 @@
 
 #include "TokenFieldFixture.h"
 
-using namespace Tavrin;
-using namespace Tavrin::Testing;
-using namespace Qt::StringLiterals;
-using testing::ElementsAre;
-using testing::IsEmpty;
-
 namespace
 {
 

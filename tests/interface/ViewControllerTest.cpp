@@ -2,14 +2,10 @@
 #include <QLabel>
 #include <QTest>
 
-#include <gmock/gmock.h>
+#include <support/Test.h>
 
 #include <Tavrin/interface/detail/CustomDividerSplitView.h>
 #include <Tavrin/interface/toolkit/ViewController.h>
-
-using namespace Tavrin;
-using namespace Qt::StringLiterals;
-using testing::ElementsAre;
 
 namespace
 {

@@ -4,10 +4,12 @@
 #include <QSignalSpy>
 #include <QTest>
 
-#include <gmock/gmock.h>
+#include <support/Test.h>
 
 #include <Tavrin/interface/detail/EntryHighlightPDFView.h>
 #include <support/PDFBuilder.h>
+
+#include "Windows.h"
 
 namespace Tavrin::Testing
 {
@@ -19,22 +21,15 @@ inline PDFBuilder twentyPages()
     PDFBuilder pdf;
     for (int page = 1; page <= 20; ++page) {
         auto &builder = pdf.addPage();
-        builder.text(72, 700, QStringLiteral("page %1 begins here").arg(page), {.size = 20});
-        builder.text(72, 660, QStringLiteral("The quick brown fox jumps over"), {.size = 16});
-        builder.text(72, 630, QStringLiteral("the lazy dog and sleeps."), {.size = 16});
+        builder.text(72, 700, u"page %1 begins here"_s.arg(page), {.size = 20});
+        builder.text(72, 660, u"The quick brown fox jumps over"_s, {.size = 16});
+        builder.text(72, 630, u"the lazy dog and sleeps."_s, {.size = 16});
         if (page == 1) {
             builder.link(Rect{{72, 500}, {100, 20}}, Dest::xyz(10, 0, 792));
             builder.uriLink(Rect{{72, 450}, {100, 20}}, "https://example.org/x");
         }
     }
     return pdf;
-}
-
-/// Waits until a signal has come, unless the condition holds already.
-template <class Condition>
-bool waitFor(Condition condition, int milliseconds = 10'000)
-{
-    return QTest::qWaitFor(condition, milliseconds);
 }
 
 /// A view of a document, shown and drawn, with its page texts at hand.

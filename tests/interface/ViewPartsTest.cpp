@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 // The parts of the PDF view that need no window.
-#include <gmock/gmock.h>
+#include <support/Test.h>
 
 #include <Tavrin/interface/pdfview/FoldedText.h>
 #include <Tavrin/interface/pdfview/InvertedPage.h>
@@ -13,11 +13,6 @@
 
 #include <limits>
 #include <random>
-
-using namespace Tavrin;
-using namespace Tavrin::Testing;
-using namespace Qt::StringLiterals;
-using testing::ElementsAre;
 
 namespace
 {

@@ -4,10 +4,6 @@
 
 #include "ViewFixture.h"
 
-using namespace Tavrin;
-using namespace Tavrin::Testing;
-using namespace Qt::StringLiterals;
-
 namespace
 {
 
@@ -28,15 +24,14 @@ TEST_F(ViewSelectionTest, DragsOverCharactersLinesAndPages)
 {
     show(twentyPages());
     drag(word(0, u"quick"_s), word(0, u"fox"_s));
-    EXPECT_TRUE(selected().endsWith(u" f"_s) || selected().endsWith(u" fo"_s))
-        << selected().toStdString();
+    EXPECT_THAT(selected(), testing::AnyOf(Ends(u" f"_s), Ends(u" fo"_s)));
     EXPECT_TRUE(selected().contains(u"brown"_s));
     view.setZoomMode(HostPDFView::ZoomMode::FitPage);
     view.resize(700, 1500);
     view.setScaleFactor(0.8);
     settle();
     drag(word(0, u"lazy"_s), word(1, u"begins"_s));
-    EXPECT_TRUE(selected().contains(u"sleeps.\npage 2"_s)) << selected().toStdString();
+    EXPECT_THAT(selected(), Holds(u"sleeps.\npage 2"_s));
     EXPECT_EQ(view.currentSelection()->pages().size(), 2U);
     click(at(0, {400, 300}));
     EXPECT_EQ(view.currentSelection(), std::nullopt);
@@ -54,7 +49,7 @@ TEST_F(ViewSelectionTest, TakesWordsAndLinesByTwoAndThreeClicks)
     click(word(0, u"quick"_s));
     EXPECT_EQ(selected(), QString());
     click(word(0, u"jumps"_s), Qt::ShiftModifier);
-    EXPECT_TRUE(selected().contains(u"brown fox"_s)) << selected().toStdString();
+    EXPECT_THAT(selected(), Holds(u"brown fox"_s));
 }
 
 TEST_F(ViewSelectionTest, ExtendsByKeysAndCopies)
@@ -72,9 +67,9 @@ TEST_F(ViewSelectionTest, ExtendsByKeysAndCopies)
     key(Qt::Key_Right, Qt::ShiftModifier);
     EXPECT_EQ(selected().size(), start.size() + 1);
     key(Qt::Key_End, Qt::ShiftModifier);
-    EXPECT_TRUE(selected().endsWith(u"over"_s)) << selected().toStdString();
+    EXPECT_THAT(selected(), Ends(u"over"_s));
     key(Qt::Key_Down, Qt::ShiftModifier);
-    EXPECT_TRUE(selected().contains(u"the lazy"_s)) << selected().toStdString();
+    EXPECT_THAT(selected(), Holds(u"the lazy"_s));
     key(Qt::Key_C, Qt::ControlModifier);
     EXPECT_EQ(QGuiApplication::clipboard()->text(), selected());
     key(Qt::Key_Escape);

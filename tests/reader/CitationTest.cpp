@@ -20,11 +20,9 @@
 namespace Tavrin::Testing
 {
 
-using namespace Qt::StringLiterals;
 using Reader::Citation;
 using Reader::CitationDocument;
 using Reader::CitationWindow;
-using testing::HasSubstr;
 
 class CitationTest : public ReaderFixture
 {

@@ -5,7 +5,7 @@
 #include <QSettings>
 #include <QTest>
 
-#include <gmock/gmock.h>
+#include <support/Test.h>
 
 #include <Tavrin/interface/detail/SpecDetailViewController.h>
 #include <Tavrin/interface/summary/SpecEntrySummaryViewController.h>
@@ -42,49 +42,47 @@ public:
 protected:
     ReaderFixture()
     {
-        MapBuilder map(QStringLiteral("manual"), QStringLiteral("1"));
-        map.title(QStringLiteral("The Manual"))
-            .file(QStringLiteral("pdf"), QStringLiteral("Manual"), QStringLiteral("0,0,612,792"));
+        MapBuilder map(u"manual"_s, u"1"_s);
+        map.title(u"The Manual"_s).file(u"pdf"_s, u"Manual"_s, u"0,0,612,792"_s);
         PDFBuilder pdf;
-        pdf.addPage().text(72, 700, QStringLiteral("Manual"));
-        const QStringList titles{QStringLiteral("Scope"), QStringLiteral("Limits of Use"),
-                                 QStringLiteral("Further Limits")};
+        pdf.addPage().text(72, 700, u"Manual"_s);
+        const QStringList titles{u"Scope"_s, u"Limits of Use"_s, u"Further Limits"_s};
         for (int i = 0; i < titles.size(); ++i) {
             const QString number = QString::number(i + 1);
-            const QString place = QStringLiteral("section%1").arg(i);
+            const QString place = u"section%1"_s.arg(i);
             auto &page = pdf.addPage();
             page.text(72, 700, number + u' ' + titles[i], {.size = 18})
-                .text(72, 660, QStringLiteral("What is written here is about %1.").arg(titles[i]));
+                .text(72, 660, u"What is written here is about %1."_s.arg(titles[i]));
             if (i == 0) {
                 page.fill({{100, 400}, {300, 100}}, qRgb(200, 40, 40))
-                    .text(200, 380, QStringLiteral("Figure 1: Red"));
+                    .text(200, 380, u"Figure 1: Red"_s);
             }
             pdf.namedDestination(place.toLatin1(), Dest::xyz(i + 1, 72, 718));
             map.entry({.label = number,
                        .index = number,
                        .name = titles[i],
-                       .keywords = {QStringLiteral("word%1").arg(i)},
+                       .keywords = {u"word%1"_s.arg(i)},
                        .internal = place});
         }
         // Its place is at its caption, and the outline has the section above it at most.
         pdf.namedDestination("figure", Dest::xyz(1, 72, 392));
-        map.entry({.label = QStringLiteral("Figure 1"),
-                   .type = QStringLiteral("figure"),
-                   .index = QStringLiteral("1"),
-                   .name = QStringLiteral("Red"),
-                   .internal = QStringLiteral("figure")});
-        pdf.outline({{.title = QStringLiteral("1 Scope"), .dest = Dest::xyz(1, 72, 718)},
-                     {.title = QStringLiteral("2 Limits"), .dest = Dest::xyz(2, 72, 718)}});
-        map.write(files, QStringLiteral("maps/manual.xml"));
-        files.write(QStringLiteral("maps/manual.dtd"), MapBuilder::grammar());
-        document = files.write(QStringLiteral("manual.pdf"), pdf.build());
+        map.entry({.label = u"Figure 1"_s,
+                   .type = u"figure"_s,
+                   .index = u"1"_s,
+                   .name = u"Red"_s,
+                   .internal = u"figure"_s});
+        pdf.outline({{.title = u"1 Scope"_s, .dest = Dest::xyz(1, 72, 718)},
+                     {.title = u"2 Limits"_s, .dest = Dest::xyz(2, 72, 718)}});
+        map.write(files, u"maps/manual.xml"_s);
+        files.write(u"maps/manual.dtd"_s, MapBuilder::grammar());
+        document = files.write(u"manual.pdf"_s, pdf.build());
         window.resize(1000, 600);
         window.show();
         window.activateWindow();
         EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
     }
 
-    void openMaps() { window.openMaps({files.path(QStringLiteral("maps"))}); }
+    void openMaps() { window.openMaps({files.path(u"maps"_s)}); }
     void openAll()
     {
         openMaps();
@@ -114,7 +112,7 @@ protected:
     QStringList recentPlaces() const
     {
         QStringList places;
-        const auto *list = window.findChild<QListView *>(QStringLiteral("recentPlaces"));
+        const auto *list = window.findChild<QListView *>(u"recentPlaces"_s);
         for (int row = 0; row < list->model()->rowCount(); ++row)
             places += list->model()->index(row, 0).data().toString();
         return places;

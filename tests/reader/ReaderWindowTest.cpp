@@ -11,7 +11,7 @@
 #include <QTest>
 #include <QTreeWidget>
 
-#include <gmock/gmock.h>
+#include <support/Test.h>
 
 #include <Tavrin/interface/detail/SpecDetailViewController.h>
 #include <Tavrin/interface/detail/SpecPDFViewController.h>
@@ -30,9 +30,7 @@
 namespace Tavrin::Testing
 {
 
-using namespace Qt::StringLiterals;
 using Reader::ReaderWindow;
-using testing::HasSubstr;
 
 class ReaderWindowTest : public ReaderFixture
 {
