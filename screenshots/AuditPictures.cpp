@@ -62,7 +62,7 @@ void takeStates(Studio &studio, const QStringList &labels,
     select(browser, 1, 0);
     QTableView &table = *browser.tableView();
     Q_EMIT table.customContextMenuRequested(table.visualRect(table.currentIndex()).center());
-    QMenu *menu = table.findChild<QMenu *>();
+    const QPointer<QMenu> menu = table.findChild<QMenu *>();
     studio.shoot(*browser.view(), u"audit-menu"_s, *menu);
     delete menu;
     studio.shootStates(*browser.view(), browser, filteredStates);
