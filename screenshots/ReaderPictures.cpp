@@ -8,10 +8,10 @@
 #include <Tavrin/interface/detail/SpecPDFViewer.h>
 #include <Tavrin/interface/summary/SpecEntrySummaryViewController.h>
 #include <Tavrin/interface/toolkit/Sheet.h>
-#include <reader/CitationModel.h>
-#include <reader/CitationWindow.h>
-#include <reader/EntryPalette.h>
-#include <reader/LookupField.h>
+#include <reader/citing/CitationModel.h>
+#include <reader/citing/CitationWindow.h>
+#include <reader/lookup/EntryPalette.h>
+#include <reader/lookup/LookupField.h>
 #include <reader/panes/ControllerPane.h>
 #include <reader/window/ReaderWindow.h>
 
