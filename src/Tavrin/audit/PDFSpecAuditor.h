@@ -132,8 +132,8 @@ public:
     /// Makes the report at once, and writes it in the background, progress included. Tells on
     /// standard error why it can't be written.
     ///
-    /// Call it on the thread of the shared manager. The completion is called in the application's
-    /// thread; the updater in the background.
+    /// Call it on the thread of the manager that keeps the specification. The completion is called
+    /// in the application's thread; the updater in the background.
     void writeAudit(const std::vector<AuditReference> &references, AuditFormat format,
                     const QUrl &url, const Completion &completion,
                     const ProgressUpdater &progressUpdater = {}) const;

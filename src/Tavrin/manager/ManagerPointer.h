@@ -19,6 +19,7 @@ class SpecificationManager;
 class TAVRIN_CORE_EXPORT ManagerPointer
 {
 public:
+    /// Keeps nothing alive.
     explicit ManagerPointer(SpecificationManager &manager);
 
     SpecificationManager *get() const { return m_lifetime.expired() ? nullptr : m_manager; }

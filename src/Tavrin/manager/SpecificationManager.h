@@ -83,6 +83,7 @@ public:
     class TAVRIN_CORE_EXPORT SetupError : public std::runtime_error
     {
     public:
+        /// By which a host can choose its own words or its next step.
         enum class Kind {
             /// No registered specification has an open requirement for it: either it is of no
             /// document that the maps describe, or the specification that it belongs to has a file
@@ -99,6 +100,7 @@ public:
 
         /// Makes the texts for that file, in the language of this moment.
         explicit SetupError(const QUrl &url);
+        /// The same for a file that could not be read: the reason gives the kind.
         SetupError(const QUrl &url, const HostPDFError &reason);
 
         Kind kind = Kind::UnassignedAuxiliaryFile;

@@ -33,12 +33,18 @@ public:
     /// Where something other than text is printed, in upright space.
     const std::vector<Rect> &drawings() const;
 
-    /// See the operations of the same name of HostPDFPage. The first costs O(1), the others look
-    /// at the lines near the point alone.
+    /// The cell of a character, in page space; null for a line feed and beyond the text. O(1).
     Rect characterBounds(qsizetype index) const;
+    /// The character whose cell holds a point of page space, a printed one before a blank; nothing
+    /// if none does. Looks at what is near the point alone, as the next three do.
     std::optional<qsizetype> characterIndex(Point point) const;
+    /// The visual line at a point of page space, without its line feed; also between its
+    /// characters. Nothing where there is no line.
     std::optional<TextRange> lineAt(Point point) const;
+    /// The word around a point of page space; nothing between words.
     std::optional<TextRange> wordAt(Point point) const;
+    /// The characters whose cells have their centre in a rectangle of page space, as stretches in
+    /// the order of the text.
     std::vector<TextRange> rangesIn(const Rect &rect) const;
 
 private:

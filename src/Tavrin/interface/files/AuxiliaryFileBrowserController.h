@@ -47,6 +47,7 @@ public:
     static std::shared_ptr<AuxiliaryFileBrowserController>
     standard(SpecificationManager &manager = SpecificationManager::shared());
 
+    /// Shows the files of the manager; once that has ended, what it showed last.
     explicit AuxiliaryFileBrowserController(
         QObject *parent = nullptr, SpecificationManager &manager = SpecificationManager::shared());
     ~AuxiliaryFileBrowserController() override;

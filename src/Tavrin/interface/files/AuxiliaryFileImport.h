@@ -43,6 +43,7 @@ public:
         QString suggestion;
     };
 
+    /// Files go to the manager; once that has ended, no more are imported.
     explicit AuxiliaryFileImport(QObject *parent = nullptr,
                                  SpecificationManager &manager = SpecificationManager::shared());
     ~AuxiliaryFileImport() override;
