@@ -24,9 +24,12 @@ if(TAVRIN_CCACHE)
   endif()
 endif()
 
-# With CMAKE_UNITY_BUILD, which the presets for checks set, the sources of a folder are compiled as
+# With TAVRIN_UNITE_FOLDERS, which the presets for checks set, the sources of a folder are compiled as
 # one, in a third of the time. So the names in their unnamed namespaces have to differ.
 function(tavrin_unite_folders target)
+  if(NOT TAVRIN_UNITE_FOLDERS)
+    return()
+  endif()
   get_target_property(sources ${target} SOURCES)
   get_target_property(directory ${target} SOURCE_DIR)
   foreach(source IN LISTS sources)
@@ -40,12 +43,12 @@ function(tavrin_unite_folders target)
       set_source_files_properties("${source}" TARGET_DIRECTORY ${target} PROPERTIES UNITY_GROUP ${group})
     endif()
   endforeach()
-  set_target_properties(${target} PROPERTIES UNITY_BUILD_MODE GROUP)
+  set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_MODE GROUP)
 endfunction()
 
 add_library(tavrin_warnings INTERFACE)
 target_compile_options(tavrin_warnings INTERFACE -Wall -Wextra -Wconversion -Wshadow)
-if(CMAKE_UNITY_BUILD AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+if(TAVRIN_UNITE_FOLDERS AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
   # It takes a source that is compiled with others for a header.
   target_compile_options(tavrin_warnings INTERFACE -Wno-subobject-linkage)
 endif()
