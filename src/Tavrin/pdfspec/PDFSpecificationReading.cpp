@@ -180,7 +180,7 @@ PDFSpecification::entry(const HostPDFDestination &place) const
 
 std::shared_ptr<PDFSpecification::Entry> PDFSpecification::entry(const HostPDFSelection &selection)
 {
-    const auto found = EntryLocator(*m_print).closest(selection);
+    auto found = EntryLocator(*m_print).closest(selection);
     const auto range =
         found && isTextual(found->type()) ? lineRange(selection, *found) : std::nullopt;
     if (!range)
